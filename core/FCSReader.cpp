@@ -1,0 +1,348 @@
+#include "core/FCSReader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <new>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "core/BusyPointer.h"
+#include "core/FcsCompensation.h"
+#include "core/FcsData.h"
+#include "core/FcsHeader.h"
+#include "core/FcsKeywords.h"
+#include "core/FcsOddities.h"
+#include "core/Muuttujat.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace tessarin {
+namespace {
+
+using Kind = ChannelKeywords::Kind;
+
+constexpr int32_t kOldScaleRange = 10000;  // 10 to the power 1024/256
+constexpr double kOldScaleDivider = 256;   // channel numbers a decade
+
+// A file on disk, open for reading. Anything but a regular file (a pipe, a device, a folder) is
+// left alone: reading it could wait for ever.
+class Source {
+  public:
+    explicit Source(const std::string& path) {
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(path, error)) {
+            return;
+        }
+        size_ = std::filesystem::file_size(path, error);
+        if (!error) {
+            in_.open(path, std::ios::binary);
+        }
+    }
+
+    bool IsOpen() const { return in_.is_open(); }
+    uint64_t Size() const { return size_; }
+    std::istream& Stream() { return in_; }
+
+    // Up to `count` bytes from `offset`; fewer when the file ends before.
+    std::string Read(uint64_t offset, uint64_t count) {
+        std::string bytes;
+        if (offset < size_) {
+            bytes.resize(std::min(count, size_ - offset));
+            GoTo(offset);
+            in_.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+            bytes.resize(static_cast<std::size_t>(in_.gcount()));
+        }
+        return bytes;
+    }
+
+    void GoTo(uint64_t offset) {
+        in_.clear();
+        in_.seekg(static_cast<std::streamoff>(offset));
+    }
+
+  private:
+    std::ifstream in_;
+    uint64_t size_ = 0;
+};
+
+// The TEXT segment with its delimiter, the first byte, replaced by the one used from here on.
+std::string NormalisedText(std::string bytes) {
+    if (bytes.empty()) {
+        return bytes;
+    }
+    std::replace(bytes.begin(), bytes.end(), char{bytes[0]}, kDelimiter);
+    return DecodeText(bytes);
+}
+
+bool HasOldScale(const Tiedosto& file) {
+    const std::string& cytometer = file.Otsikko.Cytometer;
+    return cytometer == "FACScan" || cytometer == "FACSCalibur" ||
+           (cytometer == "LSRII" && file.FcsMajor == 2);
+}
+
+// Whether tables of that size are sane for a file of that many bytes. Every event that is really
+// there takes at least two bytes of it, so a file that is whole never comes near this bound; one
+// that only promises events must not take the machine's memory with a number in a keyword.
+bool TablesAreSane(int64_t events, int64_t channels, uint64_t fileSize) {
+    constexpr uint64_t kAlwaysAllowed = uint64_t{256} << 20U;
+    constexpr uint64_t kMostTimesFileSize = 64;
+    const auto bytes = static_cast<uint64_t>(
+        events * (channels * 2 * static_cast<int64_t>(sizeof(float)) + kPopulationSlots) +
+        channels * channels * static_cast<int64_t>(sizeof(float)));
+    return bytes <= kAlwaysAllowed + kMostTimesFileSize * fileSize;
+}
+
+// One reading of one file; its steps stand in the order in which they run.
+class FcsReading {
+  public:
+    explicit FcsReading(const std::string& path) : path_(path), source_(path) {}
+
+    Tiedosto Read() {
+        if (!source_.IsOpen() || !ReadHeader() || !ReadCounts()) {
+            return {};
+        }
+        ReadTexts();
+        const ChannelKeywords keywords(file_.Otsikko.Text, file_.ChannelCount);
+        if (!ReadChannels(keywords) || !SizeTables() ||
+            !LueKompensaatio(file_.Otsikko.Text, file_, oddities_)) {
+            return {};
+        }
+        NoteFormat(file_, keywords, oddities_);
+        NoteScales(file_, keywords, oddities_);
+        ReadData();
+        NoteValuesAboveRange(file_, keywords, oddities_);
+        ConvertLogChannels();
+        NoteValuesNotFinite(file_, oddities_);
+        ReadDisplay(keywords);
+        file_.RawData.CopyFrom(file_.Data);
+        file_.Fingerprint = TiedostonSormenjalki(path_);
+        file_.Oddities = oddities_.Line();
+        file_.Valid = file_.Fingerprint != 0;
+        return std::move(file_);
+    }
+
+  private:
+    bool ReadHeader() {
+        const auto header = TakeHeader(source_.Read(0, kHeaderLength));
+        if (!header) {
+            return false;
+        }
+        header_ = *header;
+        FcsOtsikko& kept = file_.Otsikko;
+        kept.Version = header_.version;
+        kept.TextBegin = header_.textBegin;
+        kept.TextEnd = header_.textEnd;
+        kept.DataBegin = header_.dataBegin.value_or(0);
+        kept.DataEnd = header_.dataEnd;
+        file_.FcsMajor = header_.version == "FCS3.0" ? 3 : 2;
+        const auto begin = static_cast<uint64_t>(header_.textBegin);
+        const auto end = static_cast<uint64_t>(header_.textEnd);
+        if (end >= source_.Size()) {
+            oddities_.Add("the header's end of TEXT lies beyond the file");
+        }
+        kept.Text = NormalisedText(source_.Read(begin, end - begin + 1));
+        return true;
+    }
+
+    std::string_view Keyword(std::string_view pattern) const {
+        return HaeAvainsana(pattern, file_.Otsikko.Text);
+    }
+
+    bool ReadCounts() {
+        const auto events = ParseWholeNumber(Keyword("\\$TOT"));
+        const auto channels = ParseWholeNumber(Keyword("\\$PAR"));
+        if (!events || *events < 0 || !channels || *channels < 1 ||
+            *channels > std::numeric_limits<int16_t>::max()) {
+            return false;
+        }
+        file_.EventCount = std::min(*events, MaxLoadedEvents);
+        file_.Otsikko.LoadedEvents = file_.EventCount;
+        file_.ChannelCount = static_cast<int16_t>(*channels);
+        return true;
+    }
+
+    void ReadTexts() {
+        PathParts path = SplitPath(path_);
+        file_.FileName = std::move(path.name);
+        file_.Folder = std::move(path.folder);
+        FcsOtsikko& kept = file_.Otsikko;
+        kept.DataType = Keyword("\\$DATATYPE");
+        kept.ByteOrder = Keyword("\\$BYTEORD");
+        kept.Comment = Keyword("\\$COM");
+        kept.SampleId = Keyword("\\SAMPLE ID");
+        kept.BeginTime = Keyword("\\$BTIM");
+        kept.EndTime = Keyword("\\$ETIM");
+        kept.Cytometer = Keyword("\\$CYT");
+    }
+
+    bool ReadChannels(const ChannelKeywords& keywords) {
+        file_.Channels.Mitoita(file_.ChannelCount);
+        const bool oldScale = HasOldScale(file_);
+        for (int channel = 1; channel <= file_.ChannelCount; ++channel) {
+            Kanava& kanava = file_.Channels(channel);
+            const auto range = ParseNumber(keywords.Value(Kind::kRange, channel));
+            if (!range) {
+                return false;
+            }
+            kanava.Name = keywords.Value(Kind::kName, channel);
+            kanava.Range = ToInt32(Rounded(*range));
+            const auto bits = ParseNumber(keywords.Value(Kind::kBits, channel)).value_or(0);
+            file_.Otsikko.Bits = static_cast<int16_t>(std::clamp(bits, 0.0, 32767.0));
+            kanava.IsLog = keywords.Value(Kind::kLog, channel).find('4') != std::string_view::npos;
+            if (kanava.IsLog && oldScale) {
+                kanava.Range = kOldScaleRange;
+            }
+        }
+        return true;
+    }
+
+    // False when no such tables should be had; throws when they cannot be had.
+    bool SizeTables() {
+        if (!TablesAreSane(file_.EventCount, file_.ChannelCount, source_.Size())) {
+            return false;
+        }
+        file_.Compensation.Mitoita(file_.ChannelCount, file_.ChannelCount);
+        file_.Data.Mitoita(file_.EventCount, file_.ChannelCount);
+        file_.RawData.Mitoita(file_.EventCount, file_.ChannelCount);
+        file_.Membership.Mitoita(file_.EventCount, kPopulationSlots);
+        return true;
+    }
+
+    // Where DATA begins: the header tells, and where it says nothing, $BEGINDATA.
+    std::optional<int32_t> DataPlace() const {
+        if (header_.dataBegin) {
+            return header_.dataBegin;
+        }
+        const auto place = ParseWholeNumber(Keyword("\\$BEGINDATA"));
+        return place && *place > 0 ? place : std::nullopt;
+    }
+
+    void ReadData() {
+        const auto place = DataPlace();
+        if (!place || static_cast<uint64_t>(*place) >= source_.Size()) {
+            if (file_.EventCount > 0) {
+                oddities_.Add("the place of the data lies outside the file, so all values are 0");
+            }
+            return;
+        }
+        source_.GoTo(static_cast<uint64_t>(*place));
+        const DataReport report =
+            LueTapahtumat(source_.Stream(), FormatOf(file_.Otsikko), file_.Data);
+        NoteData(file_, report, oddities_);
+    }
+
+    void ConvertLogChannels() {
+        for (int channel = 1; channel <= file_.ChannelCount; ++channel) {
+            const Kanava& kanava = file_.Channels(channel);
+            if (!kanava.IsLog || (!HasOldScale(file_) && kanava.Range <= 1)) {
+                continue;  // a range of 1 or less has no decades
+            }
+            const double divider =
+                HasOldScale(file_) ? kOldScaleDivider
+                                   : Rounded(kanava.Range / std::log10(kanava.Range));
+            Convert(file_.Data.Sarake(channel), divider);
+        }
+    }
+
+    static void Convert(std::span<float> values, double divider) {
+        const auto linear = [divider](float v) {
+            return static_cast<float>(std::pow(10.0, static_cast<double>(v) / divider));
+        };
+        // Channel numbers repeat: most files have 1024 different ones. What a table of them
+        // costs is soon saved.
+        constexpr std::size_t kTableSize = 1024;
+        std::vector<float> table;
+        if (values.size() > kTableSize) {
+            for (std::size_t i = 0; i < kTableSize; ++i) {
+                table.push_back(linear(static_cast<float>(i)));
+            }
+        }
+        for (float& v : values) {
+            const bool inTable = v >= 0 && v < static_cast<float>(table.size()) &&
+                                 v == static_cast<float>(static_cast<int>(v));
+            v = inTable ? table[static_cast<std::size_t>(v)] : linear(v);
+        }
+    }
+
+    void ReadDisplay(const ChannelKeywords& keywords) {
+        for (int channel = 1; channel <= file_.ChannelCount; ++channel) {
+            const std::string_view display = keywords.Value(Kind::kDisplay, channel);
+            if (display == "LOG") {
+                file_.Channels(channel).IsLog = true;
+            } else if (display == "LIN") {
+                file_.Channels(channel).IsLog = false;
+            }
+        }
+    }
+
+    std::string path_;
+    Source source_;
+    FcsHeader header_;
+    Tiedosto file_;
+    FcsOddities oddities_;
+};
+
+}  // namespace
+
+bool OnkoFcs(const std::string& path) {
+    Source source(path);
+    return source.IsOpen() && IsReadableVersion(source.Read(0, kVersionLength));
+}
+
+int32_t TiedostonSormenjalki(const std::string& path) {
+    constexpr uint64_t kMostBytes = 80000;
+    Source source(path);
+    if (!source.IsOpen()) {
+        return 0;
+    }
+    const std::string bytes = source.Read(0, kMostBytes);
+    float sum = 0;
+    for (std::size_t i = 1; i < bytes.size(); i += 2) {
+        const double code = static_cast<unsigned char>(bytes[i]);
+        sum = static_cast<float>(static_cast<double>(sum) + code / 100);
+    }
+    return static_cast<int32_t>(sum);
+}
+
+Tiedosto LueFCS(const std::string& path) {
+    const BusyPointer busy;
+    try {
+        return FcsReading(path).Read();
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+bool LisaaKanava(int16_t slot) {
+    Tiedosto& file = Tiedostot(slot);
+    if (file.ChannelCount == std::numeric_limits<int16_t>::max()) {
+        return false;
+    }
+    const int channels = file.ChannelCount + 1;
+    try {
+        TapahtumaTaulu<float> compensation;
+        compensation.Mitoita(channels, channels);
+        for (int into = 1; into < channels; ++into) {
+            const auto old = file.Compensation.Sarake(into);
+            std::copy(old.begin(), old.end(), compensation.Sarake(into).begin());
+        }
+        TapahtumaTaulu<float> raw;
+        raw.CopyFrom(file.RawData);
+        raw.LisaaSarake();
+        file.Channels.Mitoita(channels);
+        file.Data.LisaaSarake();
+        file.RawData = std::move(raw);
+        file.Compensation = std::move(compensation);
+    } catch (const std::bad_alloc&) {
+        file.Channels.Mitoita(file.ChannelCount);
+        return false;
+    }
+    file.ChannelCount = static_cast<int16_t>(channels);
+    return true;
+}
+
+}  // namespace tessarin

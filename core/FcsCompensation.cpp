@@ -1,0 +1,100 @@
+#include "core/FcsCompensation.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/FcsKeywords.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace tessarin {
+namespace {
+
+constexpr int kMostSpillChannels = 100;
+
+using Pieces = std::vector<std::string_view>;
+
+// The count that a list begins with; 0 when it is no number or below 0.
+int Count(const Pieces& pieces) {
+    const int count = ParseWholeNumber(pieces[0]).value_or(0);
+    return count > 0 ? count : 0;
+}
+
+std::optional<double> NumberAt(const Pieces& pieces, std::size_t place) {
+    return place < pieces.size() ? ParseNumber(pieces[place]) : std::nullopt;
+}
+
+// For each of the n names behind the count, the channel of that name; 0 when there is none.
+std::vector<int> NamedChannels(const Pieces& pieces, int n, const Tiedosto& file) {
+    std::map<std::string_view, int> byName;
+    for (int channel = 1; channel <= file.ChannelCount; ++channel) {
+        byName[file.Channels(channel).Name] = channel;  // a later channel of the same name wins
+    }
+    std::vector<int> channels;
+    for (std::size_t place = 1; place <= static_cast<std::size_t>(n); ++place) {
+        const auto found = place < pieces.size() ? byName.find(pieces[place]) : byName.end();
+        channels.push_back(found == byName.end() ? 0 : found->second);
+    }
+    return channels;
+}
+
+void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
+    const Pieces pieces = Split(value, ',');
+    const int n = Count(pieces);
+    if (n > kMostSpillChannels) {
+        oddities.Add("SPILL names more than 100 channels and is not applied");
+        return;
+    }
+    const std::vector<int> channels = NamedChannels(pieces, n, file);
+    bool unknown = false;
+    for (int i = 1; i <= n; ++i) {
+        const int from = channels[static_cast<std::size_t>(i) - 1];
+        unknown = unknown || from == 0;
+        for (int j = 1; j <= n; ++j) {
+            const int into = channels[static_cast<std::size_t>(j) - 1];
+            const auto factor = NumberAt(pieces, static_cast<std::size_t>(i * n + j));
+            // Numbers of 1 and above are the diagonal.
+            if (factor && *factor < 1.0 && from != 0 && into != 0) {
+                file.Compensation(from, into) = static_cast<float>(*factor);
+            }
+        }
+    }
+    if (unknown) {
+        oddities.Add("SPILL names channels that the file lacks");
+    }
+}
+
+bool ReadComp(std::string_view value, Tiedosto& file) {
+    const Pieces pieces = Split(value, ',');
+    const int n = Count(pieces);
+    if (n > file.ChannelCount) {
+        return false;
+    }
+    for (int i = 1; i <= n; ++i) {
+        for (int j = 1; j <= n; ++j) {
+            const auto place = static_cast<std::size_t>(i - 1) * static_cast<std::size_t>(n) +
+                               static_cast<std::size_t>(j);
+            const auto percent = static_cast<float>(NumberAt(pieces, place).value_or(0));
+            file.Compensation(i, j) = percent * -1.0F / 100.0F;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+bool LueKompensaatio(std::string_view text, Tiedosto& file, FcsOddities& oddities) {
+    file.Compensate = HaeAvainsana("\\APPLY COMPENSATION", text) == "TRUE";
+    if (file.Compensate) {
+        ReadSpill(HaeAvainsana("\\SPILL", text), file, oddities);
+    }
+    const std::string_view comp = HaeAvainsana("\\$COMP", text);
+    if (comp.empty()) {
+        return true;
+    }
+    file.Compensate = true;
+    return ReadComp(comp, file);
+}
+
+}  // namespace tessarin

@@ -1,0 +1,41 @@
+#include "core/FcsHeader.h"
+
+#include "core/Numbers.h"
+
+namespace tessarin {
+namespace {
+
+std::optional<int32_t> Offset(std::string_view bytes, std::size_t at) {
+    constexpr std::size_t kDigits = 8;
+    const auto offset = ParseWholeNumber(bytes.substr(at, kDigits));
+    return offset && *offset >= 0 ? offset : std::nullopt;
+}
+
+}  // namespace
+
+bool IsReadableVersion(std::string_view version) {
+    return version == "FCS3.0" || version == "FCS2.0";
+}
+
+std::optional<FcsHeader> TakeHeader(std::string_view bytes) {
+    if (bytes.size() < kHeaderLength || !IsReadableVersion(bytes.substr(0, kVersionLength))) {
+        return std::nullopt;
+    }
+    const auto textBegin = Offset(bytes, 10);
+    const auto textEnd = Offset(bytes, 18);
+    if (!textBegin || !textEnd || *textEnd < *textBegin) {
+        return std::nullopt;
+    }
+    FcsHeader header;
+    header.version = bytes.substr(0, kVersionLength);
+    header.textBegin = *textBegin;
+    header.textEnd = *textEnd;
+    header.dataBegin = Offset(bytes, 26);
+    if (header.dataBegin == 0) {
+        header.dataBegin.reset();
+    }
+    header.dataEnd = Offset(bytes, 34).value_or(0);
+    return header;
+}
+
+}  // namespace tessarin

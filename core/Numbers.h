@@ -1,0 +1,29 @@
+// Rounding, checked conversions and the reading of numbers from text, for the whole program.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tessarin {
+
+/// The nearest whole number, a tie going to the even one.
+double Rounded(double x);
+
+/// The largest whole number not above x.
+double Int(double x);
+
+/// `x` as a whole number. The fraction is dropped; values outside the range of int32_t, infinite
+/// ones included, give its nearest end; not a number gives 0.
+int32_t ToInt32(double x);
+
+/// Reads a decimal number: blanks around it, a sign, a decimal point and an exponent are allowed,
+/// nothing else is. Nothing for any other text and for one that is no finite number.
+std::optional<double> ParseNumber(std::string_view text);
+
+/// Reads a decimal number and rounds it to a whole one. Nothing when the text is no number or
+/// when the number does not fit.
+std::optional<int32_t> ParseWholeNumber(std::string_view text);
+
+}  // namespace tessarin

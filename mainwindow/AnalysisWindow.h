@@ -1,0 +1,69 @@
+// The window contract: all that the main window and the tools know of an analysis window.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/Ikkuna.h"
+#include "platform/Form.h"
+
+namespace tessarin {
+
+/// One analysis window. Selectors are short lower-case words ("x", "open", "fast"); a window
+/// ignores those that it does not know.
+///
+/// The operations of the second group belong to some kinds only. Where a kind lacks one, its
+/// answer is nothing (or false), which a caller can tell from an operation that did nothing.
+class AnalysisWindow : public WindowObject, public FormEvents {
+  public:
+    // Every kind has these.
+
+    /// Sets the window up in its slot; called once, right after it was made and shown.
+    virtual void Alusta(int16_t id) = 0;
+    /// Redraws the window. Draws nothing while it has no file or a sheet is being loaded.
+    virtual void Piirra() = 0;
+    /// Adapts the window to a file that was just put into it.
+    virtual void LatauksenJalkeen() = 0;
+    virtual int16_t AnnaID() const = 0;
+    /// Item `item`, from 1, of the window's pop-up menu was chosen.
+    virtual void MenuValintaReaktio(int item) = 0;
+    /// Puts the window's image on the clipboard, which the caller has cleared.
+    virtual void CopyToClipboard() = 0;
+    /// Frees the slot and closes the window; the caller keeps the object alive until it returns.
+    virtual void UnloadWindow() = 0;
+    /// `Lomake` means form: the child window that shows this one.
+    virtual Form& Lomake() = 0;
+
+    // Some kinds have these.
+
+    /// The title without `SelectedPrefix`; nothing for kinds that cannot be selected.
+    virtual std::optional<std::string> AnnaOtsikko() const { return std::nullopt; }
+    /// Gates the window on a population slot, 0 for all events.
+    virtual bool NaytaPopulaatio(int16_t /*population*/) { return false; }
+    /// Number of the channel on axis "x" or "y"; empty text for another word.
+    virtual std::optional<std::string> AnnaKanava(std::string_view /*axis*/) const {
+        return std::nullopt;
+    }
+    virtual bool AsetaKanava(std::string_view /*axis*/, int16_t /*channel*/) { return false; }
+    /// "fast" or "full".
+    virtual bool AsetaPiirtoMoodi(std::string_view /*mode*/) { return false; }
+    /// Whether the plot, and its statistics box, stand on the print preview page.
+    virtual std::optional<bool> OnkoPreviewissa() const { return std::nullopt; }
+    virtual bool AsetaPreviewissa(bool /*shown*/) { return false; }
+    virtual std::optional<bool> OnkoStatPreviewissa() const { return std::nullopt; }
+    virtual bool AsetaStatPreviewissa(bool /*shown*/) { return false; }
+    /// Quadrant cross: "open", "close", any other word toggles.
+    virtual bool NaytaTaiPiilotaKvadrantti(std::string_view /*what*/) { return false; }
+    virtual std::optional<bool> OnkoKvadranttiKaytossa() const { return std::nullopt; }
+    /// Moves the cross along "x" or "y" to a grid value, y from the top.
+    virtual bool AsetaRegion(std::string_view /*axis*/, double /*value*/) { return false; }
+    /// Place of the cross along "x" or "y" with one leading blank, y from the bottom.
+    virtual std::optional<std::string> AnnaKvadrantinKoordinaatit(
+        std::string_view /*axis*/) const {
+        return std::nullopt;
+    }
+};
+
+}  // namespace tessarin

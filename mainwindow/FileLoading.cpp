@@ -1,0 +1,155 @@
+#include "mainwindow/FileLoading.h"
+
+#include <utility>
+#include <vector>
+
+#include "core/FCSReader.h"
+#include "core/Kompensaatio.h"
+#include "core/Muuttujat.h"
+#include "core/PopulationEvaluation.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
+
+namespace tessarin {
+namespace {
+
+// The slot of a file that is loaded already; 0 when it is not.
+int16_t LoadedSlot(const std::string& path) {
+    const int32_t fingerprint = TiedostonSormenjalki(path);
+    for (int16_t slot = 1; slot <= MaxFiles; ++slot) {
+        const Tiedosto& file = Tiedostot(slot);
+        if (fingerprint != 0 && file.Fingerprint == fingerprint && file.Path() == path) {
+            return slot;
+        }
+    }
+    return 0;
+}
+
+int16_t FreeSlot() {
+    for (int16_t slot = 1; slot <= MaxFiles; ++slot) {
+        if (Tiedostot(slot).Fingerprint == 0) {
+            return slot;
+        }
+    }
+    return 0;
+}
+
+// Reads into a slot; on refusal the slot keeps what it holds and the user is told.
+bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot) {
+    Tiedosto file = LueFCS(path);
+    if (!file.Valid) {
+        main.Services().dialogs.Message("The file was not valid flow cytometry file",
+                                        "Load error");
+        return false;
+    }
+    Tiedostot(slot) = std::move(file);
+    LaskeKompensaatio(Tiedostot(slot));
+    return true;
+}
+
+// The slot that holds the file now, read if need be; 0 when it could not be had.
+int16_t FindOrRead(PaaIkkuna& main, const std::string& path) {
+    if (const int16_t loaded = LoadedSlot(path)) {
+        return loaded;
+    }
+    const int16_t slot = FreeSlot();
+    if (slot == 0) {
+        main.Services().dialogs.Message("Loading failed: There can be only " +
+                                            std::to_string(MaxFiles) +
+                                            " files open at a time.",
+                                        "Too many files open");
+        return 0;
+    }
+    if (!ReadInto(main, path, slot)) {
+        return 0;
+    }
+    TarkistaPopulaatiot();
+    return slot;
+}
+
+void TellOddities(PaaIkkuna& main, int16_t slot) {
+    const Tiedosto& file = Tiedostot(slot);
+    main.Huomauta(file.Oddities.empty() ? "" : file.FileName + ": " + file.Oddities);
+}
+
+bool GiveToWindow(int16_t window, int16_t slot) {
+    const auto target = IkkunaPaikassa(window);
+    if (target == nullptr) {
+        return false;
+    }
+    Ikkunat(window).FileIndex = slot;
+    target->LatauksenJalkeen();
+    target->Piirra();
+    return true;
+}
+
+std::vector<int16_t> SelectedWindows() {
+    std::vector<int16_t> selected;
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        if (Ikkunat(id).Used && Ikkunat(id).Selected) {
+            selected.push_back(id);
+        }
+    }
+    return selected;
+}
+
+}  // namespace
+
+bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t window,
+                               int16_t slot) {
+    int16_t taken = slot;
+    if (slot == 0) {
+        taken = FindOrRead(main, path);
+    } else if (!ReadInto(main, path, slot)) {
+        taken = 0;
+    }
+    if (taken == 0) {
+        return false;
+    }
+    TellOddities(main, taken);
+    const bool shown = window != 0 && GiveToWindow(window, taken);
+    CurrentFile = taken;
+    return shown;
+}
+
+void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path) {
+    const int16_t id = VapaaIkkunaPaikka();
+    if (id == 0) {
+        return;
+    }
+    // The file comes first, so that a refused one leaves no empty window.
+    const int16_t slot = FindOrRead(main, path);
+    if (slot == 0) {
+        return;
+    }
+    TellOddities(main, slot);
+    CurrentFile = slot;  // which the new window shows by itself
+    LuoIkkunaPaikkaan(main, "DotPlot", id);
+    main.TalletaNakyma("Autosave");
+}
+
+void AvaaValittuihin(PaaIkkuna& main, const std::string& path) {
+    const std::vector<int16_t> selected = SelectedWindows();
+    if (selected.empty()) {
+        AvaaUuteenIkkunaan(main, path);
+        return;
+    }
+    for (const int16_t id : selected) {
+        // What is refused once is refused again; one message is enough.
+        if (!TiedostonLukuToimenPiteet(main, path, id, 0)) {
+            break;
+        }
+    }
+    VapautaKayttamattomat();
+    main.TalletaNakyma("Autosave");
+}
+
+void FileOpenFCS(PaaIkkuna& main) {
+    const std::string path =
+        main.Services().dialogs.OpenFile({"Open FCS file", "FCS files (*.*)|*.*"});
+    if (!path.empty()) {
+        AvaaValittuihin(main, path);
+    }
+}
+
+}  // namespace tessarin

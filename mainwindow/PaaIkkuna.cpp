@@ -1,0 +1,156 @@
+#include "mainwindow/PaaIkkuna.h"
+
+#include <array>
+
+#include "core/BusyPointer.h"
+#include "core/Muuttujat.h"
+#include "mainwindow/Exit.h"
+#include "mainwindow/FileLoading.h"
+#include "mainwindow/LimitDialogs.h"
+#include "mainwindow/MenuTree.h"
+#include "mainwindow/WindowList.h"
+#include "mainwindow/WindowRegistry.h"
+
+namespace tessarin {
+
+const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
+    static const std::map<std::string_view, Handler> handlers = {
+        {"FileOpenFCS", [](PaaIkkuna& main) { FileOpenFCS(main); }},
+        {"FileExit", [](PaaIkkuna& main) { FileExit(main); }},
+        {"CopyImages", [](PaaIkkuna& main) { main.CopyImages(); }},
+        {"SelectAll", [](PaaIkkuna&) { ValitseKaikki(); }},
+        {"AsetaFastDrawLimit",
+         [](PaaIkkuna& main) { AsetaFastDrawLimit(main.Services().dialogs); }},
+        {"AsetaLadattavienPisteidenMaara",
+         [](PaaIkkuna& main) { AsetaLadattavienPisteidenMaara(main.Services().dialogs); }},
+        {"KaytaNegAbsJuttua", [](PaaIkkuna& main) { main.ToggleBumper(); }},
+        {"AvaaHelp", [](PaaIkkuna& main) { main.ShowHelp(); }},
+        {"AvaaAboutLaatikko", [](PaaIkkuna& main) { main.ShowAbout(); }},
+    };
+    return handlers;
+}
+
+PaaIkkuna::PaaIkkuna(const Platform& platform)
+    : platform_(platform), panel_(platform.mainForm), populations_(platform.mainForm) {
+    NaytaTiimalasi = [this](bool busy) {
+        platform_.pointer.SetPointer(busy ? MousePointer::kHourglass : MousePointer::kNormal);
+    };
+    platform_.mainForm.SetEvents(this);
+}
+
+PaaIkkuna::~PaaIkkuna() {
+    platform_.mainForm.SetEvents(nullptr);
+    NaytaTiimalasi = nullptr;
+}
+
+void PaaIkkuna::Kaynnista() {
+    PalautaAlkutila();
+    MainForm& form = platform_.mainForm;
+    form.SetTitle("Tessarin v. " + std::string(ProgramVersionText));
+    form.BuildMenus(MenuTree([](std::string_view command) {
+        return Handlers().contains(command) || EtsiLajiKomennolla(command) != nullptr;
+    }));
+    form.Show();
+    panel_.Alusta();
+    populations_.Rakenna();
+    populations_.PaivitaRegionLista();
+}
+
+void PaaIkkuna::PiirraKaikki() {
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        if (const auto window = IkkunaPaikassa(id)) {
+            window->Piirra();
+        }
+        platform_.loop.Yield();
+    }
+    populations_.PaivitaRegionLista();
+    TalletaNakyma("Autosave");
+}
+
+void PaaIkkuna::TalletaNakyma(std::string_view mode) {
+    if (companions_.views != nullptr) {
+        companions_.views->TalletaNakyma(mode);
+    }
+}
+
+void PaaIkkuna::Huomauta(const std::string& remark) {
+    platform_.mainForm.SetStatus(remark);
+    if (onRemark && !remark.empty()) {
+        onRemark(remark);
+    }
+}
+
+bool PaaIkkuna::OnkoEsikatselu() const {
+    return companions_.preview != nullptr && companions_.preview->OnkoNakyvissa();
+}
+
+void PaaIkkuna::Command(std::string_view command) {
+    const auto handler = Handlers().find(command);
+    if (handler != Handlers().end()) {
+        handler->second(*this);
+    } else if (const WindowKind* kind = EtsiLajiKomennolla(command)) {
+        LuoIkkuna(*this, kind->type);
+    }
+}
+
+void PaaIkkuna::BackgroundMouseMove() {
+    panel_.Sulje();
+    if (KokoaMuutetaan == 0) {
+        return;
+    }
+    const auto window = IkkunaPaikassa(KokoaMuutetaan);
+    KokoaMuutetaan = 0;
+    if (window != nullptr) {
+        window->Piirra();
+    }
+}
+
+void PaaIkkuna::FreezePanel(bool frozen) {
+    PanelFrozen = frozen;
+}
+
+void PaaIkkuna::CloseRequested() {
+    FileExit(*this);
+}
+
+void PaaIkkuna::FilesDropped(const std::vector<std::string>& paths) {
+    // The first goes where "Open FCS..." would put it; the others would only replace it there.
+    bool first = true;
+    for (const std::string& path : paths) {
+        first ? AvaaValittuihin(*this, path) : AvaaUuteenIkkunaan(*this, path);
+        first = false;
+    }
+}
+
+void PaaIkkuna::CopyImages() {
+    platform_.clipboard.Clear();
+    if (const auto window = IkkunaPaikassa(ActiveWindow)) {
+        window->CopyToClipboard();
+        ClipSource = ActiveWindow;
+    }
+}
+
+void PaaIkkuna::ToggleBumper() {
+    KaytaNegAbsJuttua = !KaytaNegAbsJuttua;
+    platform_.mainForm.SetItemChecked("KaytaNegAbsJuttua", KaytaNegAbsJuttua);
+    PiirraKaikki();
+}
+
+void PaaIkkuna::ShowHelp() {
+    const std::string guide = platform_.programFolder + "guide/index.html";
+    if (!platform_.browser.Open(guide)) {
+        Huomauta("The web browser could not be started. The user guide is " + guide);
+    }
+}
+
+void PaaIkkuna::ShowAbout() {
+    const std::array<std::string, 4> lines = {
+        "Tessarin",
+        "Version " + std::string(ProgramVersionText) + ", released " + std::string(kReleaseDate),
+        "A workbench for flow cytometry",
+        "Free software under the MIT licence",
+    };
+    platform_.mainForm.ShowAbout(lines);
+}
+
+}  // namespace tessarin

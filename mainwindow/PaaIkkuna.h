@@ -1,0 +1,78 @@
+// The main window: start-up, menu commands, and what analysis windows call on it.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mainwindow/Companions.h"
+#include "mainwindow/SlidingPanel.h"
+#include "platform/Services.h"
+#include "populations/PopulationPanel.h"
+
+namespace tessarin {
+
+/// `PaaIkkuna` means main window. It owns no session state; that stands in the tables.
+class PaaIkkuna : public MainFormEvents {
+  public:
+    explicit PaaIkkuna(const Platform& platform);
+    ~PaaIkkuna() override;
+    PaaIkkuna(const PaaIkkuna&) = delete;
+    PaaIkkuna& operator=(const PaaIkkuna&) = delete;
+
+    /// `Kaynnista` means start: puts the session to its defaults and shows the main window.
+    /// REQUIRES: window kinds are registered.
+    void Kaynnista();
+
+    const Platform& Services() const { return platform_; }
+    PopulationPanel& Paneeli() { return populations_; }
+    const PopulationPanel& Paneeli() const { return populations_; }
+    Companions& Kumppanit() { return companions_; }
+
+    /// `PiirraKaikki` means draw all: redraws every window in slot order, letting events run in
+    /// between, then refreshes the panel and autosaves.
+    void PiirraKaikki();
+    /// Writes the session, once something that can is there.
+    void TalletaNakyma(std::string_view mode);
+    /// `Huomauta` means remark: one line for the status bar; empty clears it.
+    void Huomauta(const std::string& remark);
+    /// The mouse is over an analysis window: the side panel closes.
+    void HiiriMuualla() { panel_.Sulje(); }
+    /// Whether the print preview page is shown.
+    bool OnkoEsikatselu() const;
+
+    /// Also told each remark, where nobody sees a status bar.
+    std::function<void(const std::string&)> onRemark;
+
+    // MainFormEvents.
+    void Command(std::string_view command) override;
+    void BackgroundMouseMove() override;
+    void PanelMouseMove() override { panel_.Avaa(); }
+    void FreezePanel(bool frozen) override;
+    void PanelRowSelected(int slot) override { populations_.Valitse(slot); }
+    void PanelButtonPressed(PanelButton /*button*/) override {}
+    void PanelColorClicked(int /*slot*/, bool /*twice*/) override {}
+    void PanelLabelDoubleClicked(int /*slot*/) override {}
+    void CloseRequested() override;
+    void FilesDropped(const std::vector<std::string>& paths) override;
+
+  private:
+    using Handler = void (*)(PaaIkkuna&);
+    /// What each menu command does; a command that stands in the menu only has no row here.
+    static const std::map<std::string_view, Handler>& Handlers();
+
+    void CopyImages();
+    void ToggleBumper();
+    void ShowHelp();
+    void ShowAbout();
+
+    Platform platform_;
+    Companions companions_;
+    SlidingPanel panel_;
+    PopulationPanel populations_;
+};
+
+}  // namespace tessarin

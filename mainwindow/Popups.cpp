@@ -1,0 +1,66 @@
+#include "mainwindow/Popups.h"
+
+#include <vector>
+
+#include "core/Muuttujat.h"
+#include "core/RegionMuuttujat.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
+
+namespace tessarin {
+namespace {
+
+PopupEntry ShowPopulationEntry(const PaaIkkuna& main) {
+    PopupEntry entry{"Show populations"};
+    for (const std::string& caption : main.Paneeli().ShowPopulation()) {
+        entry.children.push_back({caption});
+    }
+    return entry;
+}
+
+void ShowPopulationClick(PaaIkkuna& main, int item) {
+    const int16_t population = main.Paneeli().NaytaValikonPopulaatio(item);
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        const auto window = IkkunaPaikassa(id);
+        if (window != nullptr && Ikkunat(id).Selected) {
+            window->NaytaPopulaatio(population);
+        }
+    }
+    main.TalletaNakyma("Autosave");
+}
+
+void MenuClick(PaaIkkuna& main, int item) {
+    if (const auto window = IkkunaPaikassa(PopupIkkuna)) {
+        window->MenuValintaReaktio(item);
+        main.TalletaNakyma("Autosave");
+    }
+}
+
+}  // namespace
+
+void NaytaNappiMenu(PaaIkkuna& main, int16_t id, std::span<const WindowMenuItem> items) {
+    PopupIkkuna = id;
+    std::vector<PopupEntry> entries = {ShowPopulationEntry(main)};
+    for (const WindowMenuItem& item : items) {
+        entries.push_back({item.caption, item.enabled});
+    }
+    const PopupChoice choice = main.Services().popups.Show(entries);
+    if (choice.item == 0 && choice.child >= 0) {
+        ShowPopulationClick(main, choice.child);
+    } else if (choice.item > 0) {
+        MenuClick(main, choice.item);
+    }
+}
+
+void NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file) {
+    std::vector<PopupEntry> entries;
+    for (const Kanava& channel : file.Channels) {
+        entries.push_back({channel.Name});
+    }
+    const PopupChoice choice = main.Services().popups.Show(entries);
+    if (choice.item >= 0) {
+        ValittuKanava = static_cast<int16_t>(choice.item);
+    }
+}
+
+}  // namespace tessarin

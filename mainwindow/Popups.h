@@ -1,0 +1,29 @@
+// The pop-up menus that analysis windows borrow from the main window.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+#include "core/Tiedosto.h"
+
+namespace tessarin {
+
+class PaaIkkuna;
+
+/// One item of a window's own menu; the caption "-" is a separator.
+struct WindowMenuItem {
+    std::string caption;
+    bool enabled = true;
+};
+
+/// `NappiMenu` means button menu: the pop-up of an analysis window. Shows "Show populations" and
+/// behind it the window's items; a choice goes to `MenuValintaReaktio` with its number from 1, or
+/// gates all selected windows, and is followed by an autosave.
+void NaytaNappiMenu(PaaIkkuna& main, int16_t id, std::span<const WindowMenuItem> items);
+
+/// `KanavaLista` means channel list: lets the user choose a channel of the file for an axis. A
+/// choice goes into `ValittuKanava`, counted from 0; dismissing the list leaves that as it is.
+void NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file);
+
+}  // namespace tessarin

@@ -1,0 +1,39 @@
+// Everything that asks the user something and waits for the answer.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/Color.h"
+
+namespace tessarin {
+
+enum class QuestionButtons { kOkCancel, kYesNo };
+
+/// A file dialog. The filter is written "Name (*.ext)|*.ext", pairs joined by "|".
+struct FileQuestion {
+    std::string title;
+    std::string filter;
+    std::string presetName{};
+};
+
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+
+    /// Shows a message until the user presses OK.
+    virtual void Message(std::string_view text, std::string_view title) = 0;
+    /// True for OK or Yes.
+    virtual bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) = 0;
+    /// The text given, empty for Cancel and for an empty answer.
+    virtual std::string Input(std::string_view prompt, std::string_view title,
+                              std::string_view preset) = 0;
+    /// The path chosen; empty for Cancel.
+    virtual std::string OpenFile(const FileQuestion& question) = 0;
+    virtual std::string SaveFile(const FileQuestion& question) = 0;
+    /// The colour chosen; nothing for Cancel.
+    virtual std::optional<Rgb> ChooseColor(Rgb current) = 0;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,72 @@
+// A child window of the main window, as the logic sees it.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "platform/Kuva.h"
+#include "platform/Twips.h"
+
+namespace tessarin {
+
+enum class MouseButton : uint8_t { kNone = 0, kLeft = 1, kRight = 2 };
+
+/// A mouse event over a surface, in pixels of that surface.
+struct MouseEvent {
+    MouseButton button = MouseButton::kNone;
+    bool shift = false;
+    double x = 0;
+    double y = 0;
+};
+
+inline constexpr int kKeyShift = 16;
+
+/// What a form tells its window.
+class FormEvents {
+  public:
+    virtual ~FormEvents() = default;
+
+    /// The form became the active child; not sent again while it stays so.
+    virtual void Form_Activate() = 0;
+    /// The client area has another size now.
+    virtual void Form_Resize() = 0;
+    virtual void Form_KeyDown(int keyCode) = 0;
+    virtual void Form_KeyUp(int keyCode) = 0;
+    /// The user closes the form. It is gone when the call returns; the receiver may destroy the
+    /// form, and itself, during the call.
+    virtual void Form_QueryUnload() = 0;
+    virtual void Kuva_MouseDown(const MouseEvent& mouse) = 0;
+    virtual void Kuva_MouseMove(const MouseEvent& mouse) = 0;
+    virtual void Kuva_MouseUp(const MouseEvent& mouse) = 0;
+    /// A press, drag or move was broken off: the mouse was taken away while a button was down.
+    virtual void Kuva_MouseLost() = 0;
+};
+
+/// The child window. Destroying it takes it off the screen without asking and sends no event.
+class Form {
+  public:
+    virtual ~Form() = default;
+
+    virtual void SetCaption(std::string_view caption) = 0;
+
+    /// Outer size, frame and title included.
+    virtual void SetOuterSize(Twips width, Twips height) = 0;
+    virtual Twips OuterWidth() const = 0;
+    virtual Twips OuterHeight() const = 0;
+    /// False while the form is minimised or fills the main window: its size then is not one that
+    /// the user gave it.
+    virtual bool HasOwnSize() const = 0;
+
+    /// Size of the client area in pixels; 0 when there is none to see.
+    virtual int ScaleWidth() const = 0;
+    virtual int ScaleHeight() const = 0;
+
+    /// Shows it as the active child.
+    virtual void Show() = 0;
+    virtual void Hide() = 0;
+
+    /// The surface in the client area.
+    virtual Kuva& Surface() = 0;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,41 @@
+#include "platform/qt/ChildWindow.h"
+
+#include <QCloseEvent>
+
+namespace tessarin {
+namespace {
+
+constexpr int kFirstSize = 267;  // 4000 twips, so that a new window finds its place at that size
+constexpr int kSmallest = 24;
+
+}  // namespace
+
+ChildWindow::ChildWindow(QtKuva& kuva, FormEvents& events)
+    : picture_(new KuvaWidget(kuva, events)), events_(&events) {
+    setWidget(picture_);
+    resize(kFirstSize, kFirstSize);
+}
+
+void ChildWindow::Detach() {
+    picture_->Detach();
+    events_ = nullptr;
+}
+
+QSize ChildWindow::minimumSizeHint() const {
+    return {kSmallest, kSmallest};
+}
+
+void ChildWindow::closeEvent(QCloseEvent* event) {
+    // Whether the window goes is up to its receiver, not to Qt.
+    event->ignore();
+    if (events_ == nullptr) {
+        return;
+    }
+    const QPointer<ChildWindow> self(this);
+    events_->Form_QueryUnload();
+    if (self && events_ != nullptr) {
+        hide();
+    }
+}
+
+}  // namespace tessarin

@@ -1,0 +1,50 @@
+// Dialogs that nobody sees: answers come from a list, and what was shown is kept.
+//
+// Tests script them; a headless run lets them write each message to standard error.
+#pragma once
+
+#include <deque>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "platform/Dialogs.h"
+
+namespace tessarin {
+
+class ScriptedDialogs : public Dialogs {
+  public:
+    struct Shown {
+        std::string text;
+        std::string title;
+    };
+
+    /// With a stream each message is also written there, as "TITLE: TEXT".
+    explicit ScriptedDialogs(std::ostream* log = nullptr) : log_(log) {}
+
+    void Message(std::string_view text, std::string_view title) override;
+    /// Takes the next of `answers`; OK or Yes when there is none.
+    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) override;
+    /// These take the next of `texts`; empty, as for Cancel, when there is none.
+    std::string Input(std::string_view prompt, std::string_view title,
+                      std::string_view preset) override;
+    std::string OpenFile(const FileQuestion& question) override;
+    std::string SaveFile(const FileQuestion& question) override;
+    /// Takes the next of `colors`; Cancel when there is none.
+    std::optional<Rgb> ChooseColor(Rgb current) override;
+
+    std::deque<bool> answers;
+    std::deque<std::string> texts;
+    std::deque<Rgb> colors;
+
+    std::vector<Shown> messages;
+    std::vector<Shown> questions;  ///< of any kind: text or filter, and title
+    std::string lastPreset;        ///< what the last input box or file dialog started with
+
+  private:
+    std::string NextText(std::string_view text, std::string_view title, std::string_view preset);
+
+    std::ostream* log_;
+};
+
+}  // namespace tessarin

@@ -2,6 +2,9 @@
 # Sourced by them, with `root` set to the folder of the sources. All that is said here goes to
 # standard error, because standard output belongs to the program.
 # shellcheck shell=bash
+# shellcheck disable=SC2034
+
+root=${root:?the folder of the sources}
 
 build_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation)
 # Installed along with the others; Tessarin builds without them.
@@ -80,7 +83,8 @@ need_packages() {
 # The compiler cache goes into build/ where the home folder cannot take it.
 choose_cache_folder() {
     local home_cache=${XDG_CACHE_HOME:-${HOME:-/nonexistent}/.cache}
-    if [[ -z ${CCACHE_DIR:-} ]] && ! mkdir -p "$home_cache/ccache" 2>/dev/null; then
+    if [[ -z ${CCACHE_DIR:-} ]] &&
+        ! { mkdir -p "$home_cache/ccache" 2>/dev/null && [[ -w $home_cache/ccache ]]; }; then
         export CCACHE_DIR=$root/build/ccache
     fi
 }
@@ -101,7 +105,8 @@ configure() {
         return 0
     fi
     announce_build
-    (cd "$root" && cmake --preset "$preset" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher") || return
+    (cd "$root" && cmake --preset "$preset" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" 2>&1) ||
+        return
     printf '%s\n' "$settings" >"$folder/settings"
 }
 
@@ -124,7 +129,7 @@ build() {
     exec {lock}>"$root/build/$preset.lock"
     flock "$lock"
     {
-        configure "$preset" 2>&1 &&
+        configure "$preset" &&
             NINJA_STATUS='[%f/%t] ' ninja -C "$root/build/$preset" -j "$jobs" "$target" 2>&1 |
             watch_build
     } >"$log" || status=$?

@@ -13,8 +13,10 @@ namespace {
 
 std::string Quoted(std::string_view text) {
     constexpr std::size_t kLongest = 40;
-    const bool cut = text.size() > kLongest;
-    return "'" + std::string(text.substr(0, kLongest)) + (cut ? "...'" : "'");
+    std::string quoted(1, '\'');
+    quoted.append(text.substr(0, kLongest));
+    quoted.append(text.size() > kLongest ? "...'" : "'");
+    return quoted;
 }
 
 // "P1" or "P1, P4, P6": the channels for which `odd` is true.

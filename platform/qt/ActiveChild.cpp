@@ -4,7 +4,7 @@
 
 namespace tessarin {
 
-ActiveChild::ActiveChild(QMdiArea& area) : QObject(&area), area_(area) {
+ActiveChild::ActiveChild(QMdiArea& area) : area_(area) {
     connect(&area, &QMdiArea::subWindowActivated, this,
             [this](QMdiSubWindow* window) { Became(window); });
 }

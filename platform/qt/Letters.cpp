@@ -32,7 +32,8 @@ QFont LetterFont(double ratio) {
                       QStringLiteral("DejaVu Sans Mono")});
     font.setStyleHint(QFont::TypeWriter);
     font.setPixelSize(std::max(1, NearestPixel(kLetterSize * ratio)));
-    // Full hinting keeps the stems on whole pixels; coloured fringes would end up in saved pictures.
+    // Full hinting keeps the stems on whole pixels; coloured fringes would end up in saved
+    // pictures.
     font.setHintingPreference(QFont::PreferFullHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
     return font;
@@ -90,8 +91,7 @@ bool IsFarAway(const Letters& letters) {
 
 void PaintAcross(QImage& image, const Letters& letters) {
     const double ratio = letters.ratio;
-    if (IsFarAway(letters) || letters.y > image.height() / ratio ||
-        letters.y + kLine + kCell < 0) {
+    if (IsFarAway(letters) || letters.y > image.height() / ratio || letters.y + kLine + kCell < 0) {
         return;
     }
     const Part part = VisiblePart(letters.text, letters.x, image.width() / ratio);
@@ -105,8 +105,7 @@ void PaintAcross(QImage& image, const Letters& letters) {
 
 void PaintUpwards(QImage& image, const Letters& letters) {
     const double ratio = letters.ratio;
-    if (IsFarAway(letters) || letters.x > image.width() / ratio ||
-        letters.x + kLine + kCell < 0) {
+    if (IsFarAway(letters) || letters.x > image.width() / ratio || letters.x + kLine + kCell < 0) {
         return;
     }
     const double height = image.height() / ratio;

@@ -1,0 +1,128 @@
+#include "app/CommandLine.h"
+
+#include <array>
+#include <string_view>
+
+#include "core/Numbers.h"
+
+namespace tessarin {
+namespace {
+
+// One option: what it does to the result, given its value. Those without a value get "".
+struct Option {
+    std::string_view name;
+    std::string_view value;  // what the help calls its value; empty when it takes none
+    std::string_view help;
+    bool (*take)(CommandLine& line, const std::string& value);
+};
+
+bool TakeLimit(std::optional<int32_t>& limit, const std::string& value) {
+    limit = ParseWholeNumber(value);
+    return limit && *limit > 0;
+}
+
+constexpr std::array kOptions = {
+    Option{"--headless", "", "no window and no display; messages go to standard error",
+           [](CommandLine& line, const std::string&) { return line.headless = true; }},
+    Option{"--max-events", "N", "load at most N events of each file",
+           [](CommandLine& line, const std::string& value) {
+               return TakeLimit(line.maxEvents, value);
+           }},
+    Option{"--fast-draw-limit", "N", "draw files of more than N events thinned",
+           [](CommandLine& line, const std::string& value) {
+               return TakeLimit(line.fastDrawLimit, value);
+           }},
+    Option{"--neg-bumper", "", "use the neg value bumper",
+           [](CommandLine& line, const std::string&) { return line.negBumper = true; }},
+    Option{"--snapshot", "FILE.png", "save a picture of the main window",
+           [](CommandLine& line, const std::string& value) {
+               line.snapshot = value;
+               return !value.empty();
+           }},
+    Option{"--help", "", "show this text",
+           [](CommandLine& line, const std::string&) { return line.help = true; }},
+    Option{"--version", "", "show the version",
+           [](CommandLine& line, const std::string&) { return line.version = true; }},
+};
+
+const Option* Find(std::string_view name) {
+    for (const Option& option : kOptions) {
+        if (option.name == name) {
+            return &option;
+        }
+    }
+    return nullptr;
+}
+
+// Goes through the words once; `at` stands at the next one.
+class Words {
+  public:
+    explicit Words(std::span<const std::string> words) : words_(words) {}
+
+    CommandLine Take() {
+        while (at_ < words_.size() && line_.error.empty()) {
+            const std::string& word = words_[at_++];
+            if (word == "--") {
+                line_.files.insert(line_.files.end(), words_.begin() + static_cast<long>(at_),
+                                   words_.end());
+                break;
+            }
+            if (word.starts_with("-") && word != "-") {
+                TakeOption(word);
+            } else {
+                line_.files.push_back(word);
+            }
+        }
+        return line_;
+    }
+
+  private:
+    void TakeOption(const std::string& word) {
+        const std::size_t equals = word.find('=');
+        const bool hasValue = equals != std::string::npos;
+        const std::string name = word.substr(0, equals);
+        const Option* option = Find(name);
+        if (option == nullptr || (hasValue && option->value.empty())) {
+            line_.error = "unknown option " + word;
+            return;
+        }
+        std::string value = hasValue ? word.substr(equals + 1) : "";
+        if (!option->value.empty() && !hasValue) {
+            if (at_ == words_.size()) {
+                line_.error = name + " needs a value";
+                return;
+            }
+            value = words_[at_++];
+        }
+        if (!option->take(line_, value)) {
+            line_.error = "'" + value + "' is no value for " + name;
+        }
+    }
+
+    std::span<const std::string> words_;
+    std::size_t at_ = 0;
+    CommandLine line_;
+};
+
+}  // namespace
+
+CommandLine TakeCommandLine(std::span<const std::string> words) {
+    return Words(words).Take();
+}
+
+std::string HelpText() {
+    std::string text =
+        "Usage: tessarin [OPTION]... [FILE]...\n"
+        "Opens each FILE of flow cytometry data in a dot plot.\n\n";
+    for (const Option& option : kOptions) {
+        constexpr std::size_t kColumn = 26;
+        std::string left = "  " + std::string(option.name) + " " + std::string(option.value);
+        left.resize(kColumn, ' ');
+        text += left + std::string(option.help) + "\n";
+    }
+    return text +
+           "\nExit status: 0 when all was done, 1 when an error message was shown, 2 for wrong\n"
+           "usage or a FILE that isn't there.\n";
+}
+
+}  // namespace tessarin

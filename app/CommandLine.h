@@ -1,0 +1,33 @@
+// The words of the command line, checked and taken apart.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tessarin {
+
+struct CommandLine {
+    bool help = false;
+    bool version = false;
+    bool headless = false;
+    std::optional<int32_t> maxEvents;
+    std::optional<int32_t> fastDrawLimit;
+    bool negBumper = false;
+    std::string snapshot;            ///< where to put a picture of the main window; empty for none
+    std::vector<std::string> files;  ///< as they were written
+
+    /// Why the words cannot be used, for the user; empty when they can.
+    std::string error;
+};
+
+/// `words` are the arguments behind the program's name. An option that takes a value has it in
+/// the next word or behind "=". Everything behind "--" is a file.
+CommandLine TakeCommandLine(std::span<const std::string> words);
+
+/// The text of --help.
+std::string HelpText();
+
+}  // namespace tessarin

@@ -1,0 +1,129 @@
+// The program: command line, choice of platform, registration of window kinds.
+#include <QApplication>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "app/CommandLine.h"
+#include "core/Muuttujat.h"
+#include "mainwindow/FileLoading.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "platform/qt/Conversions.h"
+#include "platform/qt/QtPlatform.h"
+#include "platform/scripted/ScriptedPlatform.h"
+#include "plots/RegisterPlots.h"
+
+namespace tessarin {
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+// What stands in for the user in a headless run.
+struct Nobody {
+    ScriptedDialogs dialogs{&std::cerr};
+    ScriptedClipboard clipboard;
+    ScriptedPopups popups;
+    ScriptedBrowser browser;
+};
+
+void TakeOptions(const CommandLine& line) {
+    MaxLoadedEvents = line.maxEvents.value_or(MaxLoadedEvents);
+    FastDrawLimit = line.fastDrawLimit.value_or(FastDrawLimit);
+}
+
+void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
+    for (const std::string& file : line.files) {
+        AvaaUuteenIkkunaan(main, std::filesystem::absolute(file).lexically_normal().string());
+    }
+}
+
+// False, with a word on standard error, when the picture could not be written.
+bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
+    platform.Services().loop.Yield();
+    if (path.empty()) {
+        return true;
+    }
+    const Bitmap picture = platform.Main().Snapshot();
+    if (ViewOf(picture).save(ToQt(path))) {
+        return true;
+    }
+    std::cerr << "tessarin: the picture could not be written to " << path << std::endl;
+    return false;
+}
+
+int Run(const CommandLine& line) {
+    Nobody nobody;
+    QtPlatform::Options options;
+    options.headless = line.headless;
+    options.programFolder = QCoreApplication::applicationDirPath().toStdString() + "/";
+    if (line.headless) {
+        options.dialogs = &nobody.dialogs;
+        options.clipboard = &nobody.clipboard;
+        options.popups = &nobody.popups;
+        options.browser = &nobody.browser;
+    }
+    QtPlatform platform(options);
+    RekisteroiKuvaajat();
+    PaaIkkuna main(platform.Services());
+    if (line.headless) {
+        main.onRemark = [](const std::string& remark) {
+            std::cerr << "warning: " << remark << std::endl;
+        };
+    }
+    main.Kaynnista();
+    TakeOptions(line);
+    if (line.negBumper) {
+        main.Command("KaytaNegAbsJuttua");
+    }
+    OpenFiles(main, line);
+    const bool saved = SaveSnapshot(platform, line.snapshot);
+    const int status = line.headless ? kDone : platform.Loop().Run();
+    const bool told = !nobody.dialogs.messages.empty();
+    PalautaAlkutila();  // the windows go before the platform that shows them
+    return saved && !told ? status : kFailed;
+}
+
+// The status to end with at once, or -1 to go on.
+int AnswerWithoutWindow(const CommandLine& line) {
+    if (!line.error.empty()) {
+        std::cerr << "tessarin: " << line.error << "\nTry 'tessarin --help'." << std::endl;
+        return kWrongUsage;
+    }
+    if (line.help) {
+        std::cout << HelpText();
+        return kDone;
+    }
+    if (line.version) {
+        std::cout << "Tessarin " << ProgramVersionText << std::endl;
+        return kDone;
+    }
+    for (const std::string& file : line.files) {
+        std::error_code error;
+        if (!std::filesystem::exists(file, error)) {
+            std::cerr << "tessarin: there is no file " << file << std::endl;
+            return kWrongUsage;
+        }
+    }
+    return -1;
+}
+
+}  // namespace
+}  // namespace tessarin
+
+int main(int argc, char** argv) {
+    const tessarin::CommandLine line =
+        tessarin::TakeCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+    const int status = tessarin::AnswerWithoutWindow(line);
+    if (status >= 0) {
+        return status;
+    }
+    if (line.headless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    int qtArguments = 1;  // Qt gets none of our words
+    QApplication application(qtArguments, argv);
+    return tessarin::Run(line);
+}

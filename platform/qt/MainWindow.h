@@ -1,0 +1,40 @@
+// The main window's frame: the area of the child windows, the side panel and the status line.
+#pragma once
+
+#include <QMainWindow>
+#include <QMdiArea>
+
+#include "platform/MainForm.h"
+#include "platform/qt/ElidedLabel.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/SidePanel.h"
+
+namespace tessarin {
+
+class MainWindow : public QMainWindow {
+  public:
+    MainWindow(MainFormEvents& events, const QtEventLoop& loop);
+
+    QMdiArea& Area() { return *area_; }
+    SidePanel& Panel() { return *panel_; }
+    ElidedLabel& StatusLine() { return *status_; }
+    void SetPanelWidth(int pixels);
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+  private:
+    MainFormEvents& events_;
+    const QtEventLoop& loop_;
+    QMdiArea* area_;
+    SidePanel* panel_;
+    ElidedLabel* status_;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,32 @@
+// The dialogs on the screen, in front of the main window.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "platform/Dialogs.h"
+
+namespace tessarin {
+
+class QtDialogs : public Dialogs {
+  public:
+    explicit QtDialogs(QWidget& parent) : parent_(parent) {}
+
+    void Message(std::string_view text, std::string_view title) override;
+    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) override;
+    std::string Input(std::string_view prompt, std::string_view title,
+                      std::string_view preset) override;
+    std::string OpenFile(const FileQuestion& question) override;
+    std::string SaveFile(const FileQuestion& question) override;
+    std::optional<Rgb> ChooseColor(Rgb current) override;
+
+  private:
+    /// Where a file dialog starts: the folder of the last answer, unless the name has its own.
+    QString Start(const std::string& presetName) const;
+    std::string Chosen(const QString& path);
+
+    QWidget& parent_;
+    QString folder_;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,34 @@
+// The words of the command line.
+#include "app/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+namespace tessarin {
+namespace {
+
+CommandLine Take(const std::vector<std::string>& words) {
+    return TakeCommandLine(words);
+}
+
+TEST(CommandLineTest, TakesOptionsAndFilesInAnyOrder) {
+    const CommandLine line = Take({"a.fcs", "--headless", "--max-events", "10",
+                                   "--fast-draw-limit=7", "--neg-bumper", "--snapshot", "p.png",
+                                   "--", "--odd-name.fcs"});
+    EXPECT_EQ(line.error, "");
+    EXPECT_TRUE(line.headless && line.negBumper);
+    EXPECT_EQ(line.maxEvents, 10);
+    EXPECT_EQ(line.fastDrawLimit, 7);
+    EXPECT_EQ(line.snapshot, "p.png");
+    EXPECT_EQ(line.files, (std::vector<std::string>{"a.fcs", "--odd-name.fcs"}));
+}
+
+TEST(CommandLineTest, RefusesWhatItCannotUse) {
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"--max-events"}, {"--max-events", "0"}, {"--max-events", "few"},
+          {"--snapshot="}, {"--headless=yes"}, {"--unknown"}, {"-x"}}) {
+        EXPECT_NE(Take(words).error, "") << words[0];
+    }
+}
+
+}  // namespace
+}  // namespace tessarin

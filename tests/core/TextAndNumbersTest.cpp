@@ -1,0 +1,74 @@
+// Text and number helpers, at the ends of what comes in from outside.
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace tessarin {
+namespace {
+
+TEST(Text, KeepsUtf8AndReadsOtherBytesAsWindows1252) {
+    // Code points by hand: 0x80 is U+20AC, 0x99 U+2122, 0xAA U+00AA, 0xE9 U+00E9.
+    EXPECT_EQ(DecodeText("a\xc3\xa4\x80\xe2\x82\xac\xe9z"), "a\xc3\xa4\xe2\x82\xac\xe2\x82\xac\xc3\xa9z");
+    EXPECT_EQ(DecodeText("CellQuest\x99\xaa"), "CellQuest\xe2\x84\xa2\xc2\xaa");
+    EXPECT_EQ(DecodeText("\xf0\x9f\x98\x80"), "\xf0\x9f\x98\x80");
+    // Cut off, overlong, a surrogate and past the last character: no UTF-8, so byte by byte.
+    EXPECT_EQ(DecodeText("\xc3"), "\xc3\x83");
+    EXPECT_EQ(DecodeText("\xc0\xaf"), "\xc3\x80\xc2\xaf");
+    EXPECT_EQ(Length(DecodeText("\xed\xa0\x80")), 3U);
+    EXPECT_EQ(Length(DecodeText("\xf4\x90\x80\x80")), 4U);
+}
+
+TEST(Text, ReplacesFromTheLeftWithoutLookingAgain) {
+    EXPECT_EQ(KorvaaTeksti("aaa", "aa", "a"), "aa");
+    EXPECT_EQ(KorvaaTeksti("1.2.3", ".", ".."), "1..2..3");
+    EXPECT_EQ(KorvaaTeksti("Aa", "a", ""), "A");
+    EXPECT_EQ(KorvaaTeksti("text", "", "x"), "text");
+}
+
+TEST(Text, SplitsPathsOfBothKinds) {
+    EXPECT_EQ(SplitPath("/a b/c.fcs").folder + "|" + SplitPath("/a b/c.fcs").name, "/a b/|c.fcs");
+    EXPECT_EQ(SplitPath("C:\\d\\e.fcs").folder, "C:\\d\\");
+    EXPECT_EQ(SplitPath("/d/back\\slash.fcs").name, "back\\slash.fcs");
+    EXPECT_EQ(SplitPath("alone").folder, "");
+    EXPECT_EQ(Split(",a,", ',').size(), 3U);
+}
+
+TEST(Numbers, AreReadWhateverTheLocaleSays) {
+    // A locale with a decimal comma changes nothing; where none is installed the rest still holds.
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    std::setlocale(LC_ALL, "de_DE.UTF-8");
+    EXPECT_EQ(ParseNumber(" 1.5\r\n"), 1.5);
+    EXPECT_EQ(ParseNumber("1,5"), std::nullopt);
+    std::setlocale(LC_ALL, before.c_str());
+    EXPECT_EQ(ParseNumber("+2e3"), 2000.0);
+    EXPECT_EQ(ParseNumber(".5"), 0.5);
+    EXPECT_EQ(ParseNumber("-5."), -5.0);
+    EXPECT_EQ(ParseNumber(std::string_view("7\0\0", 3)), 7.0);
+    for (const char* text : {"", " ", "+", "-", ".", "+-5", "++5", "+ 5", "- 5", "1 2", "0x10", "1e",
+                             "inf", "-infinity", "nan", "nan(1)", "1e999", "12abc", "1_0", "5f"}) {
+        EXPECT_EQ(ParseNumber(text), std::nullopt) << text;
+    }
+}
+
+TEST(Numbers, RoundTiesToEvenAndStayInsideTheirType) {
+    EXPECT_EQ(Rounded(0.5), 0);
+    EXPECT_EQ(Rounded(1.5), 2);
+    EXPECT_EQ(Rounded(-2.5), -2);
+    EXPECT_EQ(Int(-0.1), -1);
+    EXPECT_EQ(ParseWholeNumber("2147483647.5"), std::nullopt);
+    EXPECT_EQ(ParseWholeNumber("2147483647.4"), 2147483647);
+    EXPECT_EQ(ParseWholeNumber("-2147483648"), std::numeric_limits<int32_t>::min());
+    EXPECT_EQ(ParseWholeNumber("1e10"), std::nullopt);
+    EXPECT_EQ(ToInt32(-7.9), -7);
+    EXPECT_EQ(ToInt32(1e300), 2147483647);
+    EXPECT_EQ(ToInt32(-INFINITY), std::numeric_limits<int32_t>::min());
+    EXPECT_EQ(ToInt32(NAN), 0);
+}
+
+}  // namespace
+}  // namespace tessarin

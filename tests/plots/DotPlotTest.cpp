@@ -1,0 +1,281 @@
+// A dot plot on a scripted platform: what stands where on its surface, and in which colour.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/RegionMuuttujat.h"
+#include "mainwindow/WindowList.h"
+#include "tests/support/ProgramFixture.h"
+
+namespace tessarin {
+namespace {
+
+constexpr uint32_t kBlack = 0xff000000;
+constexpr uint32_t kWhite = 0xffffffff;
+
+class DotPlotTest : public ProgramTest {
+  protected:
+    // A window whose surface is 236 by 236 pixels: the plot area is 200 by 200, so that with a
+    // range of 1000 a value of 5 is one pixel.
+    ScriptedForm& Open(const std::vector<TestChannel>& channels) {
+        OletusKoko = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
+                      TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
+        PutFile(1, "tube.fcs", channels);
+        CurrentFile = 1;
+        return NewDotPlot();
+    }
+
+    static uint32_t DotAt(const ScriptedForm& form, int x, int y) {
+        return form.surface.PixelAt(18 + x, 236 - 18 - y);
+    }
+
+    static void DefinePolygon(int16_t slot, const std::string& name, Rgb color,
+                              const std::vector<int32_t>& members) {
+        Populaatio& row = Populaatiot(slot);
+        row.Defined = true;
+        row.Name = name;
+        row.Type = "Polygon";
+        row.AxisX = 1;
+        row.AxisY = 2;
+        row.Red = color.red;
+        row.Green = color.green;
+        row.Blue = color.blue;
+        for (const int32_t event : members) {
+            Tiedostot(1).Membership(event, slot) = 1;
+        }
+    }
+};
+
+TEST_F(DotPlotTest, PutsEventsWhereTheirValuesSay) {
+    const ScriptedForm& form = Open({{"FSC", false, 1000, {0, 500, 1000, 1005, -20}},
+                                     {"SSC", false, 1000, {5, 250, 1000, 500, 750}}});
+    EXPECT_EQ(form.caption, "[S] (1): Dot Plot - tube.fcs");
+    EXPECT_EQ(DotAt(form, 100, 50), kWhite);
+    EXPECT_EQ(DotAt(form, 200, 200), kWhite);
+    EXPECT_EQ(DotAt(form, 201, 100), kWhite) << "a value above the range lies outside";
+    EXPECT_EQ(DotAt(form, 0, 150), kWhite) << "a negative value lies on the axis";
+    EXPECT_EQ(DotAt(form, 100, 51), kBlack);
+    EXPECT_EQ(form.surface.blocksPainted, 5U);
+}
+
+TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
+    ScriptedForm& form = Open({{"FSC-H", false, 1024, {1}}, {"FL1", true, 10000, {1}}});
+    const auto& strokes = form.surface.strokes;
+    const auto ticks = [&](auto isTick) {
+        return std::count_if(strokes.begin(), strokes.end(), isTick);
+    };
+    // Range 1024 has a tick at 0, 100, ... 1000.
+    EXPECT_EQ(ticks([](const auto& s) { return s.y1 == 218 && s.y2 == 222; }), 11);
+    // Four decades of ten ticks each, k * 10^d for k from 1 to 10.
+    EXPECT_EQ(ticks([](const auto& s) { return s.x1 == 18 && s.x2 == 14; }), 40);
+    const auto& texts = form.surface.texts;
+    ASSERT_EQ(texts.size(), 2U);
+    EXPECT_EQ(texts[0].text, "FSC-H");
+    EXPECT_EQ(texts[0].x, 118 - 17.5);
+    EXPECT_EQ(texts[0].y, 222);
+    EXPECT_EQ(texts[1].text, "FL1");
+    EXPECT_TRUE(texts[1].rotated);
+    EXPECT_EQ(texts[1].x, 2);
+    EXPECT_EQ(texts[1].y, 118 + 10.5);
+}
+
+TEST_F(DotPlotTest, ColoursByTheHighestVisiblePopulation) {
+    ScriptedForm& form = Open({{"a", false, 1000, {100, 200, 300, 400}},
+                               {"b", false, 1000, {100, 200, 300, 400}}});
+    DefinePolygon(2, "low", {255, 0, 0}, {1, 2, 3});
+    DefinePolygon(17, "definition", {0, 255, 0}, {2, 3});
+    DefinePolygon(18, "clear", {0, 0, 255}, {3});
+    Populaatiot(18).Transparent = true;
+    Populaatiot(2).AxisY = 7;  // drawn elsewhere; its members keep their colour here
+    main.PiirraKaikki();
+    EXPECT_EQ(DotAt(form, 20, 20), 0xffff0000);
+    EXPECT_EQ(DotAt(form, 40, 40), 0xff00ff00);
+    EXPECT_EQ(DotAt(form, 60, 60), 0xff00ff00) << "a transparent one is passed over";
+    EXPECT_EQ(DotAt(form, 80, 80), kWhite);
+    ChoosePopup(form, 7);
+    EXPECT_EQ(DotAt(form, 20, 20), kWhite);
+    ChoosePopup(form, 12);
+    EXPECT_EQ(DotAt(form, 20, 20), kBlack);
+    EXPECT_EQ(DotAt(form, 20, 30), kWhite);
+    ChoosePopup(form, 13);
+    EXPECT_EQ(DotAt(form, 21, 19), kBlack) << "large dots are two pixels wide";
+}
+
+TEST_F(DotPlotTest, GateShowsMembersOnly) {
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {100, 200, 300}}, {"b", false, 1000, {100, 200, 300}}});
+    DefinePolygon(3, "gate", {9, 9, 9}, {2});
+    DefinePolygon(4, "empty", {9, 9, 9}, {});
+    main.PiirraKaikki();
+    ChoosePopup(form, 0, 1);  // "Show populations", first defined one
+    EXPECT_EQ(form.surface.blocksPainted, 1U);
+    EXPECT_EQ(DotAt(form, 40, 40), (Rgb{9, 9, 9}.Pixel()));
+    ASSERT_EQ(platform.popups.lastEntries[0].children.size(), 3U);
+    EXPECT_EQ(platform.popups.lastEntries[0].children[2].caption, "empty");
+    ChoosePopup(form, 0, 2);
+    EXPECT_EQ(form.surface.blocksPainted, 0U);
+    EXPECT_TRUE(form.surface.HasText("a"));
+    Populaatiot(4).Defined = false;
+    main.PiirraKaikki();
+    EXPECT_EQ(form.surface.blocksPainted, 3U) << "a gate that is gone shows all events again";
+}
+
+TEST_F(DotPlotTest, FastDrawFollowsTheLimit) {
+    FastDrawLimit = 100;
+    const std::vector<float> atLimit(100, 1);
+    const std::vector<float> above(101, 1);
+    ScriptedForm& form = Open({{"a", false, 1000, atLimit}, {"b", false, 1000, atLimit}});
+    EXPECT_FALSE(form.surface.HasText("FAST DRAW MODE"));
+    ChoosePopup(form, 14);
+    EXPECT_EQ(form.surface.blocksPainted, 100U) << "at the limit the item does nothing";
+    PutFile(1, "big.fcs", {{"a", false, 1000, above}, {"b", false, 1000, above}});
+    IkkunaPaikassa(1)->LatauksenJalkeen();
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_EQ(form.surface.blocksPainted, 51U);
+    EXPECT_TRUE(form.surface.HasText("FAST DRAW MODE"));
+    ChoosePopup(form, 14);
+    EXPECT_EQ(platform.popups.lastEntries[14].caption, "Full draw mode");
+    EXPECT_EQ(form.surface.blocksPainted, 101U);
+    // The tools' way changes the mode alone, and the step stays.
+    IkkunaPaikassa(1)->AsetaPiirtoMoodi("fast");
+    EXPECT_EQ(form.surface.blocksPainted, 101U);
+    EXPECT_TRUE(form.surface.HasText("FAST DRAW MODE"));
+}
+
+TEST_F(DotPlotTest, ResizeDrawsThinnedUntilTheMouseMoves) {
+    const std::vector<float> many(3000, 500);
+    ScriptedForm& form = Open({{"a", false, 1000, many}, {"b", false, 1000, many}});
+    EXPECT_EQ(form.surface.blocksPainted, 3000U);
+    form.SetOuterSize(TwipsFromPixels(400), TwipsFromPixels(300));
+    EXPECT_EQ(form.surface.blocksPainted, 1000U);
+    EXPECT_EQ(form.surface.Width(), 400 - ScriptedForm::kFrameWidth);
+    EXPECT_EQ(OletusKoko.Leveys, 6000);
+    form.Move(50, 50);
+    EXPECT_EQ(form.surface.blocksPainted, 3000U);
+    form.SetOuterSize(TwipsFromPixels(1), TwipsFromPixels(1));  // too small to hold anything
+    platform.mainForm.events->BackgroundMouseMove();
+    EXPECT_EQ(KokoaMuutetaan, 0);
+    EXPECT_GE(form.surface.Width(), 1);
+}
+
+TEST_F(DotPlotTest, DensityShadesCountEvents) {
+    // Three events in one cell, one in another, and one far outside the matrix.
+    ScriptedForm& form = Open({{"a", false, 1000, {500, 500, 500, 250, 1e30F}},
+                               {"b", false, 1000, {500, 500, 500, 250, 500}}});
+    ChoosePopup(form, 3);
+    // 512 cells on 200 pixels: value 500 is cell 256 from the left and 256 from the top.
+    EXPECT_EQ(form.surface.PixelAt(118, 118), Grey(120).Pixel());
+    EXPECT_EQ(form.surface.PixelAt(68, 168), Grey(60).Pixel());
+    ChoosePopup(form, 12);
+    EXPECT_EQ(form.surface.PixelAt(68, 168), Grey(60).Pixel()) << "also on white";
+    ChoosePopup(form, 3);
+    EXPECT_EQ(form.surface.PixelAt(118, 118), kBlack);
+    EXPECT_EQ(TiheysKuva::Shade(17), 251);
+    EXPECT_EQ(TiheysKuva::Shade(18), 255);
+}
+
+TEST_F(DotPlotTest, DensityCellsAreRectanglesOnLargeSurfaces) {
+    ScriptedForm& form = Open({{"a", false, 512, {256}}, {"b", false, 512, {256}}});
+    form.SetOuterSize(TwipsFromPixels(1060 + ScriptedForm::kFrameWidth),
+                      TwipsFromPixels(1060 + ScriptedForm::kFrameHeight));
+    ChoosePopup(form, 3);
+    // 1024 pixels for 512 cells: cell 256 begins at pixel 512 and reaches 2 further.
+    for (const int offset : {0, 2}) {
+        EXPECT_EQ(form.surface.PixelAt(18 + 512 + offset, 18 + 512 + offset), Grey(60).Pixel());
+    }
+    EXPECT_EQ(form.surface.PixelAt(18 + 511, 18 + 512), kBlack);
+    EXPECT_EQ(form.surface.PixelAt(18 + 515, 18 + 512), kBlack);
+}
+
+TEST_F(DotPlotTest, RegionsAndTheirNames) {
+    ScriptedForm& form = Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}, {"c", false, 1000, {0}}});
+    DefinePolygon(1, "Poly-1", {255, 0, 0}, {});
+    Populaatio& polygon = Populaatiot(1);
+    polygon.Corners = 3;
+    polygon.Created = 2;
+    const std::array<std::array<float, 2>, 3> corners = {{{2500, 2500}, {7500, 2500}, {5000, 9000}}};
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        polygon.X[i + 1] = corners[i][0];
+        polygon.Y[i + 1] = corners[i][1];
+    }
+    polygon.TitleX = 100;
+    main.PiirraKaikki();
+    const auto isSide = [](const RecordingKuva::Stroke& s) { return s.x1 == 68 && s.y1 == 68 && s.x2 == 168; };
+    const auto sides = [&] { return std::count_if(form.surface.strokes.begin(), form.surface.strokes.end(), isSide); };
+    EXPECT_EQ(sides(), 1);
+    // Base: mean x 5000 less half of 6 characters, 21; mean y Int(4666.67) less 4.
+    EXPECT_EQ(polygon.TitleBaseX, 4979);
+    EXPECT_EQ(polygon.TitleBaseY, 4662);
+    const auto& texts = form.surface.texts;
+    const auto name = std::find_if(texts.begin(), texts.end(), [](const auto& t) { return t.text == "Poly-1"; });
+    ASSERT_NE(name, texts.end());
+    EXPECT_DOUBLE_EQ(name->x, 18 + 200 * 5079 / 10000.0 - 21);
+    EXPECT_DOUBLE_EQ(name->y, 18 + 200 * 4662 / 10000.0 - 4);
+
+    ChoosePopup(form, 6);  // only those created here: this one is window 2's
+    EXPECT_EQ(sides(), 0);
+    ChoosePopup(form, 6);
+    MuokattavaRegion = 1;  // in hand
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_EQ(sides(), 0);
+    MuokattavaRegion = 0;
+    IkkunaPaikassa(1)->AsetaKanava("y", 3);
+    EXPECT_EQ(sides(), 0) << "drawn on other channels";
+    EXPECT_FALSE(form.surface.HasText("Poly-1"));
+    IkkunaPaikassa(1)->AsetaKanava("y", 2);
+    ChoosePopup(form, 5);
+    EXPECT_EQ(sides(), 0);
+}
+
+TEST_F(DotPlotTest, QuadrantCross) {
+    ScriptedForm& form = Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}});
+    ChoosePopup(form, 2);
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 5000");
+    EXPECT_EQ(form.surface.PixelAt(118, 30), kWhite);
+    IkkunaPaikassa(1)->AsetaRegion("x", 2500);
+    IkkunaPaikassa(1)->AsetaRegion("y", 1000);
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("x"), " 2500");
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 9000") << "from the bottom";
+    EXPECT_EQ(form.surface.PixelAt(118, 30), kBlack);
+    EXPECT_EQ(form.surface.PixelAt(68, 200), kWhite);
+    EXPECT_EQ(form.surface.PixelAt(200, 38), kWhite);
+    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("close");
+    ViimeKvadranttiX = 4000;
+    ViimeKvadranttiY = 3000;
+    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("open");
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("x"), " 4000");
+}
+
+TEST_F(DotPlotTest, ChannelsFromTheAxesAndTheirFallback) {
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}, {"c", false, 1000, {0}}});
+    platform.popups.choices.push_back({2, -1});
+    form.Press(100, 230, MouseButton::kRight);  // below the x axis
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("x"), "3");
+    ASSERT_EQ(platform.popups.lastEntries.size(), 3U);
+    EXPECT_EQ(platform.popups.lastEntries[2].caption, "c");
+    form.Press(10, 100, MouseButton::kRight);  // left of the y axis, dismissed
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("y"), "3") << "the last choice is applied again";
+    form.Press(10, 18, MouseButton::kRight);  // above the y axis it is the plot's menu
+    EXPECT_EQ(platform.popups.lastEntries.size(), 19U);
+    PutFile(1, "one.fcs", {{"only", false, 1000, {5}}});
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("x"), "1");
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("y"), "1");
+}
+
+TEST_F(DotPlotTest, AWindowWithoutFileStaysEmpty) {
+    ScriptedForm& form = NewDotPlot();
+    EXPECT_EQ(form.caption, "[S] (1): Dot Plot - No File");
+    const int redraws = form.surface.redraws;
+    main.PiirraKaikki();
+    form.Press(10, 100, MouseButton::kRight);
+    for (int item = 1; item <= 18; ++item) {
+        ChoosePopup(form, item);
+    }
+    EXPECT_EQ(form.surface.redraws, redraws);
+    EXPECT_TRUE(form.surface.texts.empty());
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,149 @@
+// Sizes, closing and the end of child windows.
+#include "qt/Recorders.h"
+
+namespace tessarin {
+namespace {
+
+using FormTest = WindowTest;
+
+TEST_F(FormTest, SizesAreThoseOfTheFrameAndOfTheClientArea) {
+    RecordingForm child("A", log_);
+    child.form = Main().MakeChild(child);
+    child.form->SetOuterSize({4000}, {4000});
+    // Before it is shown, as after.
+    EXPECT_EQ(child.form->OuterWidth().count, 266 * 15);
+    const int width = child.form->ScaleWidth();
+    const int height = child.form->ScaleHeight();
+    EXPECT_GT(width, 230);
+    EXPECT_LT(width, 266);
+    EXPECT_LT(height, 250);
+    child.form->Show();
+    LetEventsRun();
+    EXPECT_EQ(child.form->ScaleWidth(), width);
+    EXPECT_EQ(child.form->ScaleHeight(), height);
+    EXPECT_TRUE(child.form->HasOwnSize());
+}
+
+TEST_F(FormTest, ResizeIsToldWhenTheClientAreaHasAnotherSize) {
+    const auto a = MakeChild("A");
+    const int width = a->form->ScaleWidth();
+    const int height = a->form->ScaleHeight();
+    Take();
+    a->form->SetOuterSize(TwipsFromPixels(350), TwipsFromPixels(210));
+    EXPECT_EQ(Take(),
+              Log{"A resize " + std::to_string(width + 50) + " " + std::to_string(height + 10)});
+    a->form->SetOuterSize(TwipsFromPixels(350), TwipsFromPixels(210));
+    a->form->Hide();
+    a->form->Show();
+    EXPECT_EQ(Take(), Log{"A activate"});
+}
+
+TEST_F(FormTest, NextToNothingAndBeyondAllBoundsAreSizesToo) {
+    const auto a = MakeChild("A");
+    for (const int twips : {15, 0, -4000, 2000000000}) {
+        a->form->SetOuterSize({twips}, {twips});
+        LetEventsRun();
+        EXPECT_GE(a->form->ScaleWidth(), 0);
+        EXPECT_LE(a->form->ScaleWidth(), 8192);
+        a->form->Surface().SetSize(a->form->ScaleWidth(), a->form->ScaleHeight());
+        a->form->Surface().Cls();
+        a->form->Surface().Print("text");
+        LetEventsRun();
+    }
+}
+
+TEST_F(FormTest, MaximisedAndMinimisedIsNoSizeOfItsOwn) {
+    const auto a = MakeChild("A");
+    const Twips before = a->form->OuterWidth();
+    const int width = a->form->ScaleWidth();
+    Take();
+    Shown(0).showMaximized();
+    EXPECT_FALSE(a->form->HasOwnSize());
+    EXPECT_GT(a->form->ScaleWidth(), 1000);
+    EXPECT_EQ(Take().size(), 1U);
+    Shown(0).showNormal();
+    EXPECT_EQ(Take().size(), 1U);
+
+    Shown(0).showMinimized();
+    LetEventsRun();
+    EXPECT_FALSE(a->form->HasOwnSize());
+    EXPECT_EQ(a->form->ScaleWidth(), 0);
+    Shown(0).showNormal();
+    LetEventsRun();
+    EXPECT_EQ(a->form->OuterWidth(), before);
+    EXPECT_EQ(a->form->ScaleWidth(), width);
+}
+
+TEST_F(FormTest, ANewChildBesideAMaximisedOneHasItsOwnSize) {
+    const auto a = MakeChild("A");
+    Shown(0).showMaximized();
+    const auto b = MakeChild("B");
+    EXPECT_TRUE(b->form->HasOwnSize());
+    EXPECT_EQ(b->form->OuterWidth(), TwipsFromPixels(300));
+}
+
+TEST_F(FormTest, TheReceiverOfAClosingMayDestroyFormAndItself) {
+    auto a = MakeChild("A");
+    auto b = MakeChild("B");
+    struct Leaving : RecordingForm {
+        using RecordingForm::RecordingForm;
+        void Form_QueryUnload() override { delete this; }
+    };
+    auto* leaving = new Leaving("C", log_);
+    leaving->form = Main().MakeChild(*leaving);
+    leaving->form->Show();
+    LetEventsRun();
+    Take();
+
+    Shown(2).close();
+    EXPECT_EQ(Take(), Log{"B activate"});
+    Shown(1).close();
+    EXPECT_EQ(Take(), (Log{"B unload", "A activate"}));
+    EXPECT_EQ(b->form, nullptr);
+    EXPECT_EQ(Window().Area().subWindowList().size(), 1);
+
+    a->keepsFormOnClose = true;
+    Shown(0).close();
+    EXPECT_EQ(Take(), Log{"A unload"});
+    EXPECT_TRUE(Shown(0).isHidden());
+    a->form.reset();
+    LetEventsRun();
+    EXPECT_TRUE(Window().Area().subWindowList().isEmpty());
+}
+
+TEST_F(FormTest, AFormDestroyedInTheMiddleOfAPressIsNotTouchedAgain) {
+    auto a = MakeChild("A");
+    a->onPress = [&] {
+        a->form.reset();
+        LetEventsRun();
+    };
+    Take();
+    QPointer<KuvaWidget> picture = &Picture(0);
+    QTest::mousePress(picture, Qt::LeftButton, {}, {20, 20});
+    EXPECT_EQ(Take(), (Log{"A up 16", "A press 1 20 20"}));
+}
+
+TEST(FormOutlivesMainForm, AllCallsAreHarmless) {
+    Log log;
+    RecordingForm child("A", log);
+    {
+        QtPlatform platform({true, "", "", nullptr, nullptr, nullptr, nullptr});
+        platform.Main().Show();
+        child.form = platform.Main().MakeChild(child);
+        child.form->Show();
+    }
+    child.form->SetOuterSize({4000}, {4000});
+    child.form->SetCaption("late");
+    child.form->Surface().Cls();
+    EXPECT_EQ(child.form->ScaleWidth(), 0);
+    child.form->Hide();
+}
+
+TEST_F(FormTest, TheCaptionStandsInTheTitleAsItIs) {
+    const auto a = MakeChild("A");
+    a->form->SetCaption("[S] (1): Dot Plot - R&D[*].fcs");
+    EXPECT_EQ(Shown(0).windowTitle(), QString("[S] (1): Dot Plot - R&D[*][*].fcs"));
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,171 @@
+// The main window: menus, status line, closing, dropping, pictures.
+#include <QAction>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QStatusTipEvent>
+#include <QUrl>
+
+#include "qt/Recorders.h"
+
+namespace tessarin {
+namespace {
+
+class MainFormTest : public WindowTest {
+  protected:
+    void BuildMenus() {
+        const std::vector<Menu> menus{
+            {"MenuFile",
+             "&File",
+             {{"FileOpenFCS", "Open FCS...", "Ctrl+O"},
+              {"", "-", ""},
+              {"Printtaa", "Print...", "", false},
+              {"Bumper", "Use neg value bumper", "", true, true}}},
+            {"MenuScript", "&Tools", {{"SkriptiLista1", "Search & find", ""}}}};
+        Main().BuildMenus(menus);
+    }
+    QAction& Item(const char* name) {
+        auto* action = Window().findChild<QAction*>(QString::fromLatin1(name));
+        EXPECT_NE(action, nullptr) << name;
+        return *action;
+    }
+};
+
+TEST_F(MainFormTest, MenusComeFromTheirValues) {
+    BuildMenus();
+    ASSERT_EQ(Window().menuBar()->actions().size(), 2);
+    EXPECT_EQ(Window().menuBar()->actions()[0]->text(), "&File");
+    EXPECT_EQ(Window().menuBar()->actions()[0]->menu()->actions().size(), 4);
+    EXPECT_EQ(Item("FileOpenFCS").shortcut(), QKeySequence("Ctrl+O"));
+    EXPECT_EQ(Item("SkriptiLista1").text(), "Search && find");
+    EXPECT_FALSE(Item("Printtaa").isEnabled());
+    Main().SetItemEnabled("Printtaa", true);
+    Main().SetItemEnabled("NoSuchItem", true);
+    EXPECT_TRUE(Item("Printtaa").isEnabled());
+    Item("Printtaa").trigger();
+    EXPECT_EQ(main_.Take(), Log{"command Printtaa"});
+
+    BuildMenus();
+    LetEventsRun();
+    EXPECT_EQ(Window().menuBar()->actions().size(), 2);
+    EXPECT_EQ(Window().findChildren<QAction*>("FileOpenFCS").size(), 1);
+    EXPECT_FALSE(Item("Printtaa").isEnabled());
+}
+
+TEST_F(MainFormTest, ShortcutsChooseTheirItems) {
+    BuildMenus();
+    const auto child = MakeChild("A");
+    Window().activateWindow();
+    LetEventsRun();
+    QTest::keyClick(Window().windowHandle(), Qt::Key_O, Qt::ControlModifier);
+    LetEventsRun();
+    EXPECT_EQ(main_.Take(), Log{"command FileOpenFCS"});
+}
+
+TEST_F(MainFormTest, ACheckMarkIsSetByTheProgramAlone) {
+    BuildMenus();
+    Item("Bumper").trigger();
+    EXPECT_FALSE(Item("Bumper").isChecked());
+    Main().SetItemChecked("Bumper", true);
+    EXPECT_TRUE(Item("Bumper").isChecked());
+    Item("Bumper").trigger();
+    EXPECT_TRUE(Item("Bumper").isChecked());
+    EXPECT_EQ(main_.Take(), (Log{"command Bumper", "command Bumper"}));
+}
+
+TEST_F(MainFormTest, TheStatusLineStaysUntilTheNext) {
+    Main().SetStatus("short");
+    LetEventsRun();
+    EXPECT_EQ(Window().StatusLine().text(), "short");
+    QStatusTipEvent tip("");
+    QCoreApplication::sendEvent(&Window(), &tip);
+    EXPECT_TRUE(Window().StatusLine().isVisible());
+    EXPECT_EQ(Window().statusBar()->currentMessage(), "");
+
+    const int width = Window().width();
+    Main().SetStatus(std::string(2000, 'w') + " <b>");
+    LetEventsRun();
+    EXPECT_EQ(Window().width(), width);
+    EXPECT_LT(Window().minimumSizeHint().width(), 800);
+    EXPECT_TRUE(Window().StatusLine().text().endsWith(QChar(0x2026)));
+    EXPECT_TRUE(Window().StatusLine().toolTip().contains("&lt;b&gt;"));
+    Main().SetStatus("");
+    EXPECT_EQ(Window().StatusLine().text(), "");
+}
+
+TEST_F(MainFormTest, TheCloseBoxAsksAndTheWindowStaysUnlessTheProgramQuits) {
+    EXPECT_FALSE(Window().close());
+    EXPECT_TRUE(Window().isVisible());
+    EXPECT_EQ(main_.Take(), Log{"close"});
+    platform_.Loop().Quit(3);
+    EXPECT_TRUE(Window().close());
+    EXPECT_EQ(main_.Take(), Log{});
+    EXPECT_EQ(platform_.Loop().Run(), 3);
+}
+
+TEST_F(MainFormTest, MovesOverTheBackgroundAreTold) {
+    const auto child = MakeChild("A");
+    main_.Take();
+    QWidget* background = Window().Area().viewport();
+    QTest::mouseMove(background, {700, 500});
+    LetEventsRun();
+    EXPECT_EQ(main_.Take(), Log{"background"});
+    QTest::mouseMove(&Picture(0), {50, 50});
+    LetEventsRun();
+    QTest::mouseMove(&Shown(0), {60, 8});
+    LetEventsRun();
+    EXPECT_EQ(main_.Take(), Log{});
+}
+
+TEST_F(MainFormTest, DroppedFilesArriveAsPaths) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile("/data/a b.fcs"), QUrl("http://example.org/x.fcs"),
+                  QUrl::fromLocalFile("/data/\u00e4.fcs")});
+    QDragEnterEvent enter({600, 400}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QCoreApplication::sendEvent(&Window(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_EQ(enter.dropAction(), Qt::CopyAction);
+    QDropEvent drop({600, 400}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&Window(), &drop);
+    LetEventsRun();
+    EXPECT_EQ(main_.Take(), (Log{"dropped /data/a b.fcs", "dropped /data/\xc3\xa4.fcs"}));
+
+    QMimeData text;
+    text.setText("no file");
+    QDragEnterEvent other({600, 400}, Qt::CopyAction, &text, Qt::LeftButton, {});
+    other.ignore();
+    QCoreApplication::sendEvent(&Window(), &other);
+    EXPECT_FALSE(other.isAccepted());
+}
+
+TEST_F(MainFormTest, TheSnapshotHoldsTheChildren) {
+    const auto child = MakeChild("A");
+    Kuva& kuva = child->form->Surface();
+    kuva.SetSize(child->form->ScaleWidth(), child->form->ScaleHeight());
+    kuva.SetBackColor({1, 2, 3});
+    kuva.Cls();
+    const Bitmap picture = Main().Snapshot();
+    EXPECT_EQ(picture.width, 1200 * picture.ratio);
+    EXPECT_EQ(picture.height, 800 * picture.ratio);
+    EXPECT_EQ(picture.ratio, Window().devicePixelRatioF());
+    const auto at = [&](const QWidget& widget, QPoint place) {
+        const QPoint there = widget.mapTo(&Window(), place) * picture.ratio;
+        return picture.At(there.x(), there.y());
+    };
+    EXPECT_EQ(at(Picture(0), {100, 100}), (Rgb{1, 2, 3}.Pixel()));
+    EXPECT_EQ(at(Window().Area(), {800, 500}), kBackgroundColor.Pixel());
+}
+
+TEST_F(MainFormTest, WithoutAReceiverNothingHappens) {
+    BuildMenus();
+    Main().SetEvents(nullptr);
+    Item("FileOpenFCS").trigger();
+    EXPECT_FALSE(Window().close());
+    EXPECT_EQ(main_.Take(), Log{});
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,30 @@
+// The base of tests that touch the session's tables or read files.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "core/FCSReader.h"
+#include "core/Muuttujat.h"
+#include "core/PopulationEvaluation.h"
+#include "tests/support/FcsBuilder.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace tessarin {
+
+/// Each test begins with the session as it is at program start.
+class SessionTest : public testing::Test {
+  protected:
+    SessionTest() {
+        PalautaAlkutila();
+        PoistaArvioijat();
+    }
+
+    Tiedosto Read(const FcsBuilder& built) const { return ReadBytes(built.Bytes()); }
+    Tiedosto ReadBytes(const std::string& bytes) const {
+        return LueFCS(folder.Write("tube.fcs", bytes));
+    }
+
+    TemporaryFolder folder;
+};
+
+}  // namespace tessarin

@@ -21,6 +21,17 @@ constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
+// Without a display Qt complains of what that display cannot do, and of a run-time folder that a
+// server may lack. Standard error is for messages to the user.
+void DropDisplayWarnings(QtMsgType type, const QMessageLogContext& context,
+                         const QString& message) {
+    static const auto qt = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(DropDisplayWarnings);
+    if (!message.contains("propagateSizeHints") && !message.contains("XDG_RUNTIME_DIR")) {
+        qt(type, context, message);
+    }
+}
+
 // What stands in for the user in a headless run.
 struct Nobody {
     ScriptedDialogs dialogs{&std::cerr};

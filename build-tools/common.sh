@@ -42,6 +42,10 @@ missing_packages() {
     done
 }
 
+can_be_root() {
+    [[ $EUID -eq 0 ]] || command -v sudo >/dev/null
+}
+
 # Without a terminal nobody can type a password, so sudo must not ask for one.
 as_root() {
     if [[ $EUID -eq 0 ]]; then
@@ -71,12 +75,14 @@ need_packages() {
     ((${#missing[@]})) || return 0
 
     mapfile -t wanted < <(missing_packages "$@" "${helpful_packages[@]}")
-    say "Installing ${wanted[*]}"
-    if install_packages "${wanted[@]}" >"$log" 2>&1; then
-        return 0
+    if can_be_root; then
+        say "Installing ${wanted[*]}"
+        if install_packages "${wanted[@]}" >"$log" 2>&1; then
+            return 0
+        fi
+        show_log "$log"
     fi
-    show_log "$log"
-    say "These packages could not be installed. Please install them: ${missing[*]}"
+    say "These packages are needed and could not be installed: ${missing[*]}"
     exit 2
 }
 

@@ -118,6 +118,7 @@ class FcsReading {
         ConvertLogChannels();
         NoteValuesNotFinite(file_, oddities_);
         ReadDisplay(keywords);
+        NoteRanges(file_, oddities_);
         file_.RawData.CopyFrom(file_.Data);
         file_.Fingerprint = TiedostonSormenjalki(path_);
         file_.Oddities = oddities_.Line();
@@ -225,7 +226,7 @@ class FcsReading {
         const auto place = DataPlace();
         if (!place || static_cast<uint64_t>(*place) >= source_.Size()) {
             if (file_.EventCount > 0) {
-                oddities_.Add("the place of the data lies outside the file, so all values are 0");
+                oddities_.Add("the place of the data lies outside the file, so no value is read");
             }
             return;
         }

@@ -1,6 +1,9 @@
 #include "core/FcsCompensation.h"
 
+#include <cmath>
+#include <limits>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,9 +24,33 @@ int Count(const Pieces& pieces) {
     return count > 0 ? count : 0;
 }
 
-std::optional<double> NumberAt(const Pieces& pieces, std::size_t place) {
-    return place < pieces.size() ? ParseNumber(pieces[place]) : std::nullopt;
-}
+// Takes the factors of one keyword's list, and tells once when some are missing, no numbers or
+// too large to be kept.
+class Factors {
+  public:
+    Factors(const Pieces& pieces, std::string_view keyword) : pieces_(pieces), keyword_(keyword) {}
+
+    std::optional<float> At(std::size_t place) {
+        const auto number = place < pieces_.size() ? ParseNumber(pieces_[place]) : std::nullopt;
+        if (!number || std::fabs(*number) > std::numeric_limits<float>::max()) {
+            broken_ = true;
+            return std::nullopt;
+        }
+        return static_cast<float>(*number);
+    }
+
+    void Tell(FcsOddities& oddities) const {
+        if (broken_) {
+            oddities.Add(std::string(keyword_) +
+                         " has entries that are missing or no numbers; they count as 0");
+        }
+    }
+
+  private:
+    const Pieces& pieces_;
+    std::string_view keyword_;
+    bool broken_ = false;
+};
 
 // For each of the n names behind the count, the channel of that name; 0 when there is none.
 std::vector<int> NamedChannels(const Pieces& pieces, int n, const Tiedosto& file) {
@@ -48,53 +75,64 @@ void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
     }
     const std::vector<int> channels = NamedChannels(pieces, n, file);
     bool unknown = false;
+    Factors factors(pieces, "SPILL");
     for (int i = 1; i <= n; ++i) {
         const int from = channels[static_cast<std::size_t>(i) - 1];
         unknown = unknown || from == 0;
         for (int j = 1; j <= n; ++j) {
             const int into = channels[static_cast<std::size_t>(j) - 1];
-            const auto factor = NumberAt(pieces, static_cast<std::size_t>(i * n + j));
+            const auto factor = factors.At(static_cast<std::size_t>(i * n + j));
             // Numbers of 1 and above are the diagonal.
-            if (factor && *factor < 1.0 && from != 0 && into != 0) {
-                file.Compensation(from, into) = static_cast<float>(*factor);
+            if (factor && *factor < 1.0F && from != 0 && into != 0) {
+                file.Compensation(from, into) = *factor;
             }
         }
     }
+    factors.Tell(oddities);
     if (unknown) {
         oddities.Add("SPILL names channels that the file lacks");
     }
 }
 
-bool ReadComp(std::string_view value, Tiedosto& file) {
+bool ReadComp(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
     const Pieces pieces = Split(value, ',');
     const int n = Count(pieces);
     if (n > file.ChannelCount) {
         return false;
     }
+    Factors factors(pieces, "$COMP");
     for (int i = 1; i <= n; ++i) {
         for (int j = 1; j <= n; ++j) {
             const auto place = static_cast<std::size_t>(i - 1) * static_cast<std::size_t>(n) +
                                static_cast<std::size_t>(j);
-            const auto percent = static_cast<float>(NumberAt(pieces, place).value_or(0));
-            file.Compensation(i, j) = percent * -1.0F / 100.0F;
+            file.Compensation(i, j) = factors.At(place).value_or(0) * -1.0F / 100.0F;
         }
     }
+    factors.Tell(oddities);
     return true;
+}
+
+bool HasFactors(std::string_view list) {
+    return Count(Split(list, ',')) > 0;
 }
 
 }  // namespace
 
 bool LueKompensaatio(std::string_view text, Tiedosto& file, FcsOddities& oddities) {
     file.Compensate = HaeAvainsana("\\APPLY COMPENSATION", text) == "TRUE";
+    const std::string_view spill = HaeAvainsana("\\SPILL", text);
     if (file.Compensate) {
-        ReadSpill(HaeAvainsana("\\SPILL", text), file, oddities);
+        ReadSpill(spill, file, oddities);
     }
     const std::string_view comp = HaeAvainsana("\\$COMP", text);
     if (comp.empty()) {
+        if (file.Compensate && !HasFactors(spill)) {
+            oddities.Add("compensation is asked for, but the file has no factors");
+        }
         return true;
     }
     file.Compensate = true;
-    return ReadComp(comp, file);
+    return ReadComp(comp, file, oddities);
 }
 
 }  // namespace tessarin

@@ -88,7 +88,7 @@ void NoteFormat(const Tiedosto& file, const ChannelKeywords& keywords, FcsOdditi
     const FcsOtsikko& header = file.Otsikko;
     const ValueFormat format = FormatOf(header);
     if (format.kind == ValueFormat::Kind::kNotRead) {
-        oddities.Add(WhyNotRead(header) + ", so all values are 0");
+        oddities.Add(WhyNotRead(header) + ", so no value is read");
     }
     NoteByteOrder(header, oddities);
     using Kind = ChannelKeywords::Kind;
@@ -129,6 +129,9 @@ void NoteScales(const Tiedosto& file, const ChannelKeywords& keywords, FcsOdditi
                        "linear already",
                        isLog);
     }
+}
+
+void NoteRanges(const Tiedosto& file, FcsOddities& oddities) {
     AddForChannels(file, oddities, "a range that gives no scale", [&](int channel) {
         const Kanava& kanava = file.Channels(channel);
         return kanava.Range < 1 || (kanava.IsLog && kanava.Range < 2);

@@ -30,6 +30,9 @@ void NoteFormat(const Tiedosto& file, const ChannelKeywords& keywords, FcsOdditi
 /// Scales that $PnE names and the program does not have.
 void NoteScales(const Tiedosto& file, const ChannelKeywords& keywords, FcsOddities& oddities);
 
+/// Ranges that give no scale. REQUIRES: it is decided which channels are log.
+void NoteRanges(const Tiedosto& file, FcsOddities& oddities);
+
 /// Data that end early or were cut. REQUIRES: the report is that of reading `file`.
 void NoteData(const Tiedosto& file, const DataReport& report, FcsOddities& oddities);
 

@@ -137,7 +137,7 @@ void PaaIkkuna::ToggleBumper() {
 }
 
 void PaaIkkuna::ShowHelp() {
-    const std::string guide = platform_.programFolder + "guide/index.html";
+    const std::string guide = "file://" + platform_.programFolder + "guide/index.html";
     if (!platform_.browser.Open(guide)) {
         Huomauta("The web browser could not be started. The user guide is " + guide);
     }

@@ -1,18 +1,20 @@
 #include "platform/qt/ChildInput.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
+#include <QWindow>
 
 namespace tessarin {
 namespace {
 
 constexpr int kOtherKey = 0;
 
-// The child window that holds the widget; not one that a dialog or pop-up menu belongs to.
-ChildWindow* ChildAround(QObject* receiver) {
-    auto* widget = qobject_cast<QWidget*>(receiver);
-    while (widget != nullptr && !widget->isWindow()) {
+// The child window at that place of a top-level window; nullptr when there is none.
+ChildWindow* ChildAt(const QWindow& window, const QPoint& place) {
+    QWidget* top = QWidget::find(window.winId());
+    QWidget* widget = top == nullptr ? nullptr : top->childAt(place);
+    while (widget != nullptr) {
         if (auto* child = dynamic_cast<ChildWindow*>(widget)) {
             return child;
         }
@@ -24,23 +26,24 @@ ChildWindow* ChildAround(QObject* receiver) {
 }  // namespace
 
 ChildInput::ChildInput(ActiveChild& active) : active_(active) {
-    QCoreApplication::instance()->installEventFilter(this);
+    QApplication::instance()->installEventFilter(this);
 }
 
+// Input is seen on its way to the top-level window, once. When it has come down to the widgets, Qt
+// has moved the focus already and with it perhaps activated a child.
 bool ChildInput::eventFilter(QObject* receiver, QEvent* event) {
+    if (!receiver->isWindowType()) {
+        return false;
+    }
     switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            if (ChildWindow* child = ChildAround(receiver)) {
-                Pressed(*child, static_cast<const QMouseEvent&>(*event));
-            }
+            Pressed(static_cast<const QWindow&>(*receiver),
+                    static_cast<const QMouseEvent&>(*event));
             break;
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
-            // A key comes by once as the window's and then again for each widget it is offered to.
-            if (receiver->isWindowType()) {
-                KeyMoved(static_cast<const QKeyEvent&>(*event));
-            }
+            KeyMoved(static_cast<const QKeyEvent&>(*event));
             break;
         default:
             break;
@@ -48,8 +51,12 @@ bool ChildInput::eventFilter(QObject* receiver, QEvent* event) {
     return false;
 }
 
-void ChildInput::Pressed(ChildWindow& window, const QMouseEvent& mouse) {
-    FormEvents* events = window.Events();
+void ChildInput::Pressed(const QWindow& window, const QMouseEvent& mouse) {
+    // With a pop-up menu open the press is for the menu.
+    ChildWindow* child = QApplication::activePopupWidget() == nullptr
+                             ? ChildAt(window, mouse.position().toPoint())
+                             : nullptr;
+    FormEvents* events = child == nullptr ? nullptr : child->Events();
     if (events == nullptr) {
         return;
     }
@@ -59,7 +66,7 @@ void ChildInput::Pressed(ChildWindow& window, const QMouseEvent& mouse) {
     } else {
         events->Form_KeyUp(kKeyShift);
     }
-    active_.Activate(window);
+    active_.Activate(*child);
 }
 
 void ChildInput::KeyMoved(const QKeyEvent& key) {

@@ -16,7 +16,7 @@ class ChildInput : public QObject {
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
-    void Pressed(ChildWindow& window, const QMouseEvent& mouse);
+    void Pressed(const QWindow& window, const QMouseEvent& mouse);
     void KeyMoved(const QKeyEvent& key);
 
     ActiveChild& active_;

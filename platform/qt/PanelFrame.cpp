@@ -11,7 +11,7 @@ namespace tessarin {
 namespace {
 
 // All in pixels, but for the places of the rows, which are in twips.
-constexpr int kWidth = 244;
+constexpr int kWidth = 240;  // leaves room for a scroll bar beside it
 constexpr int kTitleHeight = 14;
 constexpr int kButtonTop = 16;
 constexpr int kButtonHeight = 21;

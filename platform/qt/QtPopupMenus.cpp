@@ -35,6 +35,9 @@ void AddEntry(QMenu& menu, const PopupEntry& entry, PopupChoice choice, Choices&
 }  // namespace
 
 PopupChoice QtPopupMenus::Show(const std::vector<PopupEntry>& entries) {
+    if (entries.empty()) {
+        return {};  // an empty menu would wait with nothing to see
+    }
     QMenu menu(&parent_);
     Choices choices;
     int item = 0;

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QLabel>
-#include <QScrollBar>
 #include <algorithm>
 
 #include "platform/Twips.h"
@@ -15,7 +14,6 @@ namespace {
 
 constexpr int kOpenWidth = PixelsFromTwips({4000});
 constexpr int kSideMargin = 10;  // nothing but grey shows on a closed panel, which is as wide
-constexpr int kScrollBarWidth = 11;
 constexpr int kLogoHeight = 40;
 constexpr int kLogoLetters = 14;
 constexpr int kGap = 6;
@@ -61,7 +59,6 @@ SidePanel::SidePanel(MainFormEvents& events) : events_(events), scroll_(new QScr
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->verticalScrollBar()->setFixedWidth(kScrollBarWidth);
     scroll_->setMinimumSize(0, 0);
     WatchMouse();
 }

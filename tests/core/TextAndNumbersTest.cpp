@@ -13,13 +13,16 @@ namespace {
 
 TEST(Text, KeepsUtf8AndReadsOtherBytesAsWindows1252) {
     // Code points by hand: 0x80 is U+20AC, 0x99 U+2122, 0xAA U+00AA, 0xE9 U+00E9.
-    EXPECT_EQ(DecodeText("a\xc3\xa4\x80\xe2\x82\xac\xe9z"), "a\xc3\xa4\xe2\x82\xac\xe2\x82\xac\xc3\xa9z");
+    EXPECT_EQ(DecodeText("a\xc3\xa4\x80\xe2\x82\xac\xe9z"),
+              "a\xc3\xa4\xe2\x82\xac\xe2\x82\xac\xc3\xa9z");
     EXPECT_EQ(DecodeText("CellQuest\x99\xaa"), "CellQuest\xe2\x84\xa2\xc2\xaa");
     EXPECT_EQ(DecodeText("\xf0\x9f\x98\x80"), "\xf0\x9f\x98\x80");
     // Cut off, overlong, a surrogate and past the last character: no UTF-8, so byte by byte.
     EXPECT_EQ(DecodeText("\xc3"), "\xc3\x83");
     EXPECT_EQ(DecodeText("\xc0\xaf"), "\xc3\x80\xc2\xaf");
-    EXPECT_EQ(Length(DecodeText("\xed\xa0\x80")), 3U);
+    for (const char* bytes : {"\xe0\x9f\xbf", "\xed\xa0\x80", "\xf0\x8f\xbf", "\xe2\x82z"}) {
+        EXPECT_EQ(Length(DecodeText(bytes)), 3U) << bytes;
+    }
     EXPECT_EQ(Length(DecodeText("\xf4\x90\x80\x80")), 4U);
 }
 
@@ -49,8 +52,9 @@ TEST(Numbers, AreReadWhateverTheLocaleSays) {
     EXPECT_EQ(ParseNumber(".5"), 0.5);
     EXPECT_EQ(ParseNumber("-5."), -5.0);
     EXPECT_EQ(ParseNumber(std::string_view("7\0\0", 3)), 7.0);
-    for (const char* text : {"", " ", "+", "-", ".", "+-5", "++5", "+ 5", "- 5", "1 2", "0x10", "1e",
-                             "inf", "-infinity", "nan", "nan(1)", "1e999", "12abc", "1_0", "5f"}) {
+    for (const char* text :
+         {"",     " ",  "+",   "-",         ".",   "+-5",    "++5",   "+ 5",   "- 5", "1 2",
+          "0x10", "1e", "inf", "-infinity", "nan", "nan(1)", "1e999", "12abc", "1_0", "5f"}) {
         EXPECT_EQ(ParseNumber(text), std::nullopt) << text;
     }
 }

@@ -10,13 +10,12 @@ import struct
 import sys
 
 FILES = {  # file: channels to show
-    "facscan-fcs2-int16-be/Data001.fcs": (1, 3, 6),
+    "facscan-fcs2-int16-be/Data001.fcs": (1, 3),
     "partec-fcs2-int16-le/Partec.fcs": (1, 4),
-    "eclipse-int32-le/iCyt.fcs": (1, 8, 18),
-    "macsquant-float-le/CFP_Well_A4.fcs": (1, 4, 16),
-    "lsrii-spill-pair/FCS_3.0_Fortessa_PBS_Specimen_001_A1_A01.fcs": (3, 7, 9, 10),
-    "lsrii-spill-pair/fake_large_fcs.fcs": (3, 7, 9, 10),
-    "aria-index-sort/index_sorted_example.fcs": (7, 8, 10),
+    "eclipse-int32-le/iCyt.fcs": (1, 18),
+    "macsquant-float-le/CFP_Well_A4.fcs": (4, 16),
+    "lsrii-spill-pair/fake_large_fcs.fcs": (7, 9, 10),
+    "aria-index-sort/index_sorted_example.fcs": (8, 10),
     "qa-int16-le-padded-keys/PU87@2+B200.fcs": (1, 3),
     "odd/AriaFile1.fcs": (4, 12),
     "odd/System II listmode with extra info in bits D10-D15.LMD": (1, 3),
@@ -48,10 +47,8 @@ def show(folder, name, channels):
         scale[n] = (top, converted, log)
 
     def raw(event, n):
-        if code is None:
-            return 0.0
         at = begin + ((event - 1) * count + n - 1) * width
-        value = struct.unpack_from(order + code, data, at)[0]
+        value = struct.unpack_from(order + code, data, at)[0] if code else 0  # a width not read
         if code == "I":
             value &= 0xFFFFFF
         top, converted, _ = scale[n]
@@ -73,15 +70,13 @@ def show(folder, name, channels):
 
     whole = min(events, (len(data) - begin) // (count * width))
     logs = ",".join(str(n) for n in scale if scale[n][2])
-    print(f'{{"{name}", {events}, {count}, "{logs}",')
-    print(f' "{",".join(str(scale[n][0]) for n in scale)}",')
     rows = []
-    for event in (1, whole // 2, whole):
+    for event in (1, whole):
         for n in channels:
             value = raw(event, n)
             taken = sum(f * raw(event, a) for (a, b), f in spill.items() if b == n)
-            rows.append(f"{{{event}, {n}, {value:.9g}, {value - taken:.9g}}}")
-    print(" {" + ", ".join(rows) + "}},")
+            rows.append(f"{event} {n} {scale[n][0]} {value:.9g} {value - taken:.9g}")
+    print(f'{{"{name}", {events}, {count}, "{logs}", "{"; ".join(rows)}"}},')
 
 
 for name, channels in FILES.items():

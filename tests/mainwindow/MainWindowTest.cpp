@@ -187,7 +187,7 @@ TEST_F(MainWindowTest, ExitAsksFirst) {
 
 TEST_F(MainWindowTest, HelpAboutAndCopy) {
     Choose("AvaaHelp");
-    EXPECT_EQ(platform.browser.opened, std::vector<std::string>{"program/guide/index.html"});
+    EXPECT_EQ(platform.browser.opened, std::vector<std::string>{"file://program/guide/index.html"});
     Choose("AvaaAboutLaatikko");
     EXPECT_TRUE(platform.mainForm.about[1].starts_with("Version 1.2.1, released "));
     platform.clipboard.text = "old";

@@ -5,6 +5,7 @@
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
+#include "plots/DensityLayer.h"
 #include "tests/support/ProgramFixture.h"
 
 namespace tessarin {
@@ -66,8 +67,9 @@ TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
     };
     // Range 1024 has a tick at 0, 100, ... 1000.
     EXPECT_EQ(ticks([](const auto& s) { return s.y1 == 218 && s.y2 == 222; }), 11);
-    // Four decades of ten ticks each, k * 10^d for k from 1 to 10.
-    EXPECT_EQ(ticks([](const auto& s) { return s.x1 == 18 && s.x2 == 14; }), 40);
+    // Four decades of ten ticks each, k * 10^d for k from 1 to 10, and 10000 once more as the
+    // first of the decade that the axis has no room for.
+    EXPECT_EQ(ticks([](const auto& s) { return s.x1 == 18 && s.x2 == 14; }), 41);
     const auto& texts = form.surface.texts;
     ASSERT_EQ(texts.size(), 2U);
     EXPECT_EQ(texts[0].text, "FSC-H");

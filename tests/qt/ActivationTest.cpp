@@ -23,17 +23,17 @@ TEST_F(ActivationTest, EachChangeIsToldOnce) {
     EXPECT_EQ(std::count(shown.begin(), shown.end(), "A activate"), 0);
 
     b->form->Show();
-    QTest::mouseClick(&Picture(1), Qt::LeftButton, {}, {20, 20});
+    Click(Picture(1), {20, 20});
     EXPECT_EQ(Take(), (Log{"B up 16", "B press 1 20 20", "B release 1 20 20"}));
 
-    QTest::mouseClick(&Picture(0), Qt::LeftButton, {}, {20, 20});
+    Click(Picture(0), {20, 20});
     EXPECT_EQ(Take(), (Log{"A up 16", "A activate", "A press 1 20 20", "A release 1 20 20"}));
 }
 
 TEST_F(ActivationTest, OtherProgramsDialogsAndMenusChangeNothing) {
     const auto a = MakeChild("A");
     const auto b = MakeChild("B");
-    QTest::mouseClick(&Picture(0), Qt::LeftButton, {}, {20, 20});
+    Click(Picture(0), {20, 20});
     Take();
 
     QWidget other;  // stands for another program
@@ -54,7 +54,7 @@ TEST_F(ActivationTest, PressOnTheTitleActivatesToo) {
     const auto a = MakeChild("A");
     const auto b = MakeChild("B");
     Take();
-    QTest::mouseClick(&Shown(0), Qt::LeftButton, Qt::ShiftModifier, {100, 8});
+    Click(Shown(0), {100, 8}, Qt::ShiftModifier);
     EXPECT_EQ(Take(), (Log{"A down 16", "A activate"}));
 }
 
@@ -71,7 +71,7 @@ TEST_F(ActivationTest, ShiftGoesToTheActiveChildAndComesBeforeAnActivation) {
     PressKey(Window(), QEvent::KeyRelease, Qt::Key_Shift);
     EXPECT_EQ(Take(), (Log{"B down 16", "B up 0", "B up 16"}));
 
-    QTest::mouseClick(&Picture(0), Qt::LeftButton, Qt::ShiftModifier, {20, 20});
+    Click(Picture(0), {20, 20}, Qt::ShiftModifier);
     EXPECT_EQ(Take(),
               (Log{"A down 16", "A activate", "A press 1 shift 20 20", "A release 1 shift 20 20"}));
 }

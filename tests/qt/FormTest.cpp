@@ -118,8 +118,8 @@ TEST_F(FormTest, AFormDestroyedInTheMiddleOfAPressIsNotTouchedAgain) {
         LetEventsRun();
     };
     Take();
-    QPointer<KuvaWidget> picture = &Picture(0);
-    QTest::mousePress(picture, Qt::LeftButton, {}, {20, 20});
+    QTest::mousePress(Window().windowHandle(), Qt::LeftButton, {},
+                      Picture(0).mapTo(&Window(), QPoint(20, 20)));
     EXPECT_EQ(Take(), (Log{"A up 16", "A press 1 20 20"}));
 }
 

@@ -106,8 +106,8 @@ TEST_P(LettersTest, OnlyWhatCanBeSeenIsDrawnAndDrawnInItsPlace) {
         const double shift = 7.0 * 1000000;
         whole.Kuva().SetCurrent(rotated ? 10 : 3 - shift, rotated ? 57 + shift : 10);
         whole.Kuva().Print(endless);
-        tail.Kuva().SetCurrent(rotated ? 10 : 3 - 7, rotated ? 57 + 7 : 10);
-        tail.Kuva().Print("xxxxxxxxxxxxxxxxxxxxxx");
+        tail.Kuva().SetCurrent(rotated ? 10 : 3 - 8 * 7, rotated ? 57 + 8 * 7 : 10);
+        tail.Kuva().Print(std::string(30, 'x'));
         EXPECT_EQ(whole.Columns(), tail.Columns());
         EXPECT_EQ(whole.Rows(), tail.Rows());
         EXPECT_GT(tail.Columns().size(), 5U);

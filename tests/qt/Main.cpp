@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include "platform/qt/PluginLimits.h"
+
 namespace {
 
 void FailOnWarning(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
@@ -19,6 +21,7 @@ void FailOnWarning(QtMsgType type, const QMessageLogContext& /*context*/, const 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     qInstallMessageHandler(FailOnWarning);
+    tessarin::PassOverPluginLimits();
     qputenv("QT_QPA_PLATFORM", qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen").toUtf8());
     const QApplication application(argc, argv);
     return RUN_ALL_TESTS();

@@ -109,13 +109,10 @@ TEST_F(MainFormTest, MovesOverTheBackgroundAreTold) {
     const auto child = MakeChild("A");
     main_.Take();
     QWidget* background = Window().Area().viewport();
-    QTest::mouseMove(background, {700, 500});
-    LetEventsRun();
+    MoveTo(*background, {700, 500});
     EXPECT_EQ(main_.Take(), Log{"background"});
-    QTest::mouseMove(&Picture(0), {50, 50});
-    LetEventsRun();
-    QTest::mouseMove(&Shown(0), {60, 8});
-    LetEventsRun();
+    MoveTo(Picture(0), {50, 50});
+    MoveTo(Shown(0), {60, 8});
     EXPECT_EQ(main_.Take(), Log{});
 }
 

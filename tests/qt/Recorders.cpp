@@ -43,6 +43,14 @@ WindowTest::WindowTest() : platform_({true, "", "", nullptr, nullptr, nullptr, n
     LetEventsRun();
 }
 
+WindowTest::~WindowTest() {
+    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
+        if (QGuiApplication::mouseButtons().testFlag(button)) {
+            QTest::mouseRelease(Window().windowHandle(), button);
+        }
+    }
+}
+
 std::unique_ptr<RecordingForm> WindowTest::MakeChild(const std::string& name) {
     auto child = std::make_unique<RecordingForm>(name, log_);
     child->form = Main().MakeChild(*child);
@@ -54,6 +62,20 @@ std::unique_ptr<RecordingForm> WindowTest::MakeChild(const std::string& name) {
 
 ChildWindow& WindowTest::Shown(int place) {
     return dynamic_cast<ChildWindow&>(*Window().Area().subWindowList().at(place));
+}
+
+void WindowTest::Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys) {
+    QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, keys,
+                      widget.mapTo(&Window(), place));
+}
+
+void WindowTest::DoubleClick(QWidget& widget, QPoint place) {
+    QTest::mouseDClick(Window().windowHandle(), Qt::LeftButton, {}, widget.mapTo(&Window(), place));
+}
+
+void WindowTest::MoveTo(QWidget& widget, QPoint place) {
+    QTest::mouseMove(Window().windowHandle(), widget.mapTo(&Window(), place));
+    LetEventsRun();
 }
 
 Log WindowTest::Take() {

@@ -73,6 +73,8 @@ class RecordingMain : public MainFormEvents {
 class WindowTest : public testing::Test {
   protected:
     WindowTest();
+    /// Lets go of buttons that the test still holds, else the next test starts in a drag.
+    ~WindowTest() override;
 
     /// A shown child of 300 by 200 pixels, frame included.
     std::unique_ptr<RecordingForm> MakeChild(const std::string& name);
@@ -81,6 +83,10 @@ class WindowTest : public testing::Test {
     KuvaWidget& Picture(int place) { return Shown(place).Picture(); }
     MainWindow& Window() { return platform_.Main().Window(); }
     MainForm& Main() { return platform_.Main(); }
+    /// Clicks and moves that go through the main window, as the desktop sends them.
+    void Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys = {});
+    void DoubleClick(QWidget& widget, QPoint place);
+    void MoveTo(QWidget& widget, QPoint place);
     /// What the children said since the last call, "move" left out.
     Log Take();
 

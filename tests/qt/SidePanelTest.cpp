@@ -51,9 +51,7 @@ TEST_F(SidePanelTest, RowsStandWhereTheyShould) {
 }
 
 TEST_F(SidePanelTest, EachPartTellsWhatWasDoneToIt) {
-    const auto click = [&](const char* name) {
-        QTest::mouseClick(&Part(name), Qt::LeftButton, {}, {6, 7});
-    };
+    const auto click = [&](const char* name) { Click(Part(name), {6, 7}); };
     click("RegionValitsin3");
     click("DefValitsin32");
     click("RegionValitsin3");
@@ -67,10 +65,10 @@ TEST_F(SidePanelTest, EachPartTellsWhatWasDoneToIt) {
     click("JaadytaNakyma");
     EXPECT_EQ(Done(), (Log{"freeze", "thaw"}));
     click("DefVari20");
-    QTest::mouseDClick(&Part("RegionVari2"), Qt::LeftButton, {}, {6, 6});
+    DoubleClick(Part("RegionVari2"), {6, 6});
     EXPECT_EQ(Done(), (Log{"color 20 once", "color 2 once", "color 2 twice"}));
     click("LapinakyvaValitsin4");
-    QTest::mouseDClick(&Part("LapinakyvaValitsin4"), Qt::LeftButton, {}, {6, 6});
+    DoubleClick(Part("LapinakyvaValitsin4"), {6, 6});
     EXPECT_EQ(Done(), Log{"label 4"});
 }
 
@@ -143,8 +141,7 @@ TEST_F(SidePanelTest, MovesOverThePanelAndItsPartsAreTold) {
                              "TempLogo", "PoistaRegion"}) {
         main_.Take();
         ASSERT_TRUE(Part(name).hasMouseTracking()) << name;
-        QTest::mouseMove(&Part(name), {3, 3});
-        LetEventsRun();
+        MoveTo(Part(name), {3, 3});
         const Log told = main_.Take();
         EXPECT_GE(std::count(told.begin(), told.end(), "panel"), 1) << name;
         EXPECT_EQ(std::count(told.begin(), told.end(), "background"), 0) << name;

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "core/FCSReader.h"
 #include "core/Muuttujat.h"
 #include "core/PopulationEvaluation.h"
@@ -26,5 +28,15 @@ class SessionTest : public testing::Test {
 
     TemporaryFolder folder;
 };
+
+/// What a refused file must look like.
+inline void ExpectRefused(const Tiedosto& file) {
+    EXPECT_FALSE(file.Valid);
+    EXPECT_EQ(file.Fingerprint, 0);
+    EXPECT_EQ(file.Path() + file.Otsikko.Version + file.Otsikko.Text + file.Oddities, "");
+    EXPECT_EQ(file.EventCount + file.ChannelCount + file.Channels.size(), 0);
+    EXPECT_EQ(file.Data.Events() + file.RawData.Events() + file.Membership.Events(), 0);
+    EXPECT_EQ(file.Compensation.Columns(), 0);
+}
 
 }  // namespace tessarin

@@ -1,0 +1,145 @@
+"""Starts the built program on a real display, uses it as a person would, and looks at the pixels.
+
+Usage: end_to_end_test.py PROGRAM. Ends with status 77 where the display programs are missing.
+"""
+
+import os
+import struct
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from desktop import Desktop, missing_programs  # noqa: E402
+
+PROGRAM = ""
+BACKGROUND = 0x221E1F
+BLACK, WHITE = 0x000000, 0xFFFFFF
+
+
+def fcs_bytes(events, pixels_range=1000):
+    """An FCS 3.0 file of 16-bit integers on two linear channels, X and Y."""
+    text = "/$TOT/%d/$PAR/2/$DATATYPE/I/$BYTEORD/1,2,3,4" % len(events)
+    for n, name in ((1, "X"), (2, "Y")):
+        text += "/$P%dN/%s/$P%dR/%d/$P%dB/16/$P%dE/0,0" % (n, name, n, pixels_range, n, n)
+    text += "/"
+    data = 58 + len(text)
+    body = b"".join(struct.pack("<HH", x, y) for x, y in events)
+    header = "FCS3.0    %8d%8d%8d%8d%8d%8d" % (58, data - 1, data, data + len(body) - 1, 0, 0)
+    return header.encode() + text.encode() + body
+
+
+class EndToEnd(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.addCleanup(self.folder.cleanup)
+        self.desktop = Desktop()
+        self.desktop.__enter__()
+        self.addCleanup(self.desktop.__exit__, None, None, None)
+
+    def file(self, name, events):
+        path = os.path.join(self.folder.name, name)
+        with open(path, "wb") as out:
+            out.write(fcs_bytes(events))
+        return path
+
+    def start(self, *words):
+        self.program = self.desktop.start(PROGRAM, *words)
+        self.main = self.desktop.wait_for_window("Tessarin v. 1.2.1")
+        return self.main
+
+    def wait_for_plot(self):
+        # The display itself is black too, right of and below the main window.
+        def plotted():
+            picture = self.desktop.picture()
+            return picture if picture.count(BLACK, (0, 0, 600, 600)) > 40000 else None
+
+        return self.desktop.until(plotted, "a plot")
+
+    def test_a_block_of_events_stands_where_it_should(self):
+        # Events so close that they fill the middle fifth of both axes: a square of dots.
+        square = [(x, y) for x in range(400, 600, 2) for y in range(400, 600, 2)]
+        self.start(self.file("square.fcs", square))
+        picture = self.wait_for_plot()
+        # The first window is 266 pixels wide in all, at the upper left of the area.
+        left, top, right, bottom = 0, 0, 266, 300
+        dots = [
+            (x, y)
+            for y in range(top, bottom)
+            for x in range(left, right)
+            if picture.at(x, y) == WHITE
+            and picture.at(x - 2, y) == WHITE
+            and picture.at(x + 2, y) == WHITE
+            and picture.at(x, y - 2) == WHITE
+            and picture.at(x, y + 2) == WHITE
+        ]
+        middle = [p for p in dots if 60 < p[0] < 200 and 80 < p[1] < 230]
+        self.assertGreater(len(middle), 500)
+        width = max(x for x, _ in middle) - min(x for x, _ in middle)
+        height = max(y for _, y in middle) - min(y for _, y in middle)
+        # A fifth of the axes of about 220 and 200 pixels, less the rim that was cut above.
+        self.assertTrue(34 <= width <= 46, width)
+        self.assertTrue(30 <= height <= 46, height)
+
+    def test_a_session_by_mouse_and_keys(self):
+        desktop = self.desktop
+        self.start(self.file("a.fcs", [(100, 100), (500, 500), (500, 500), (900, 900)]))
+        self.wait_for_plot()
+
+        desktop.key("ctrl+d")
+        two = desktop.until(
+            lambda: self.count_black((280, 0, 600, 300)) > 40000, "a second plot"
+        )
+        self.assertTrue(two)
+
+        # Density by the pop-up menu: two events in one cell are of grey 95.
+        desktop.click(130, 100, 3)
+        desktop.key("Down", "Down", "Down", "Return")
+        desktop.until(lambda: self.count(0x5F5F5F, (20, 60, 244, 264)) > 0, "the density of two")
+        self.assertGreater(self.count(0x3C3C3C, (20, 60, 244, 264)), 0)
+
+        # The other background, and a larger window by its lower right corner.
+        desktop.click(130, 100, 3)
+        desktop.key("Up", "Up", "Up", "Return")
+        before = desktop.until(
+            lambda: self.count(WHITE, (0, 0, 266, 300)) > 40000 and self.frame_corner(),
+            "a white plot",
+        )
+        desktop.drag(before[0], before[1], 500, 560)
+        desktop.until(lambda: self.count(WHITE, (0, 0, 500, 560)) > 120000, "a larger plot")
+
+        # Leaving: first not, then yes.
+        desktop.click(18, 9)
+        desktop.key("Up", "Return")
+        desktop.wait_for_window("Exit the program")
+        desktop.key("Escape")
+        desktop.until(lambda: not desktop.windows("Exit the program"), "the question to go")
+        self.assertIsNone(self.program.poll())
+        desktop.do("windowfocus", "--sync", self.main)
+        desktop.click(18, 9)
+        desktop.key("Up", "Return")
+        desktop.wait_for_window("Exit the program")
+        desktop.key("Return")
+        self.assertEqual(self.program.wait(20), 0)
+        self.assertEqual(self.program.stderr.read().decode(), "")
+
+    def count(self, color, box):
+        return self.desktop.picture().count(color, box)
+
+    def count_black(self, box):
+        return self.count(BLACK, box)
+
+    def frame_corner(self):
+        """The lower right corner of the first window's frame: the first background beside it."""
+        picture = self.desktop.picture()
+        x = next((x for x in range(200, 640) if picture.at(x, 400) == BACKGROUND), None)
+        y = next((y for y in range(200, 640) if picture.at(100, y) == BACKGROUND), None)
+        return (265, y - 2) if x and y else None
+
+
+if __name__ == "__main__":
+    PROGRAM = sys.argv.pop(1)
+    if missing_programs():
+        print("skipped: not installed: " + ", ".join(missing_programs()))
+        sys.exit(77)
+    unittest.main(verbosity=2)

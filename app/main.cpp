@@ -10,6 +10,7 @@
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "platform/qt/Conversions.h"
+#include "platform/qt/PluginLimits.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/scripted/ScriptedPlatform.h"
 #include "plots/RegisterPlots.h"
@@ -20,17 +21,6 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
-
-// Without a display Qt complains of what that display cannot do, and of a run-time folder that a
-// server may lack. Standard error is for messages to the user.
-void DropDisplayWarnings(QtMsgType type, const QMessageLogContext& context,
-                         const QString& message) {
-    static const auto qt = qInstallMessageHandler(nullptr);
-    qInstallMessageHandler(DropDisplayWarnings);
-    if (!message.contains("propagateSizeHints") && !message.contains("XDG_RUNTIME_DIR")) {
-        qt(type, context, message);
-    }
-}
 
 // What stands in for the user in a headless run.
 struct Nobody {
@@ -133,6 +123,7 @@ int main(int argc, char** argv) {
     }
     if (line.headless) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+        tessarin::PassOverPluginLimits();
     }
     int qtArguments = 1;  // Qt gets none of our words
     QApplication application(qtArguments, argv);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/Numbers.h"
+#include "core/Text.h"
 
 namespace tessarin {
 namespace {
@@ -21,6 +22,26 @@ bool TakeLimit(std::optional<int32_t>& limit, const std::string& value) {
     return limit && *limit > 0;
 }
 
+bool TakeMenu(std::vector<MenuChoice>& menu, const std::string& value) {
+    const auto pieces = Split(value, ':');
+    if (pieces.size() != 2) {
+        return false;
+    }
+    const auto window = ParseWholeNumber(pieces[0]);
+    const auto item = ParseWholeNumber(pieces[1]);
+    constexpr int32_t kMost = 1000;
+    if (!window || !item || *window < 1 || *window > kMost || *item < 1 || *item > kMost) {
+        return false;
+    }
+    menu.push_back({static_cast<int16_t>(*window), *item});
+    return true;
+}
+
+bool TakePath(std::string& path, const std::string& value) {
+    path = value;
+    return !value.empty();
+}
+
 constexpr std::array kOptions = {
     Option{"--headless", "", "no window and no display; messages go to standard error",
            [](CommandLine& line, const std::string&) { return line.headless = true; }},
@@ -36,8 +57,15 @@ constexpr std::array kOptions = {
            [](CommandLine& line, const std::string&) { return line.negBumper = true; }},
     Option{"--snapshot", "FILE.png", "save a picture of the main window",
            [](CommandLine& line, const std::string& value) {
-               line.snapshot = value;
-               return !value.empty();
+               return TakePath(line.snapshot, value);
+           }},
+    Option{"--clipboard", "FILE", "save the text on the clipboard",
+           [](CommandLine& line, const std::string& value) {
+               return TakePath(line.clipboard, value);
+           }},
+    Option{"--menu", "WINDOW:ITEM", "choose that item of that window's pop-up menu",
+           [](CommandLine& line, const std::string& value) {
+               return TakeMenu(line.menu, value);
            }},
     Option{"--help", "", "show this text",
            [](CommandLine& line, const std::string&) { return line.help = true; }},

@@ -9,6 +9,12 @@
 
 namespace tessarin {
 
+/// An item of a window's pop-up menu, to be chosen; both numbers count from 1.
+struct MenuChoice {
+    int16_t window = 0;
+    int item = 0;
+};
+
 struct CommandLine {
     bool help = false;
     bool version = false;
@@ -17,6 +23,8 @@ struct CommandLine {
     std::optional<int32_t> fastDrawLimit;
     bool negBumper = false;
     std::string snapshot;            ///< where to put a picture of the main window; empty for none
+    std::string clipboard;           ///< where to put the clipboard's text; empty for nowhere
+    std::vector<MenuChoice> menu;    ///< in order
     std::vector<std::string> files;  ///< as they were written
 
     /// Why the words cannot be used, for the user; empty when they can.

@@ -7,8 +7,10 @@
 
 #include "app/CommandLine.h"
 #include "core/Muuttujat.h"
+#include "core/SafeFile.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
 #include "platform/qt/Conversions.h"
 #include "platform/qt/PluginLimits.h"
 #include "platform/qt/QtPlatform.h"
@@ -39,6 +41,27 @@ void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
     for (const std::string& file : line.files) {
         AvaaUuteenIkkunaan(main, std::filesystem::absolute(file).lexically_normal().string());
     }
+}
+
+// False, with a word on standard error, when a window is not there.
+bool ChooseMenuItems(const CommandLine& line) {
+    for (const MenuChoice& choice : line.menu) {
+        const auto window = IkkunaPaikassa(choice.window);
+        if (window == nullptr) {
+            std::cerr << "tessarin: there is no window " << choice.window << std::endl;
+            return false;
+        }
+        window->MenuValintaReaktio(choice.item);
+    }
+    return true;
+}
+
+bool SaveClipboard(QtPlatform& platform, const std::string& path) {
+    if (path.empty() || WriteWhole(path, platform.Services().clipboard.Text())) {
+        return true;
+    }
+    std::cerr << "tessarin: the clipboard could not be written to " << path << std::endl;
+    return false;
 }
 
 // False, with a word on standard error, when the picture could not be written.
@@ -80,11 +103,13 @@ int Run(const CommandLine& line) {
         main.Command("KaytaNegAbsJuttua");
     }
     OpenFiles(main, line);
-    const bool saved = SaveSnapshot(platform, line.snapshot);
+    const bool chosen = ChooseMenuItems(line);
+    const bool pictured = SaveSnapshot(platform, line.snapshot);
+    const bool copied = SaveClipboard(platform, line.clipboard);
     const int status = line.headless ? kDone : platform.Loop().Run();
     const bool told = !nobody.dialogs.messages.empty();
     PalautaAlkutila();  // the windows go before the platform that shows them
-    return saved && !told ? status : kFailed;
+    return chosen && pictured && copied && !told ? status : kFailed;
 }
 
 // The status to end with at once, or -1 to go on.

@@ -1,7 +1,6 @@
 #include "core/Bitmap.h"
 
-#include <filesystem>
-#include <fstream>
+#include "core/SafeFile.h"
 
 namespace tessarin {
 namespace {
@@ -50,24 +49,7 @@ std::string BmpBytes(const Bitmap& picture) {
 }
 
 std::string TalletaKuva(const Bitmap& picture, const std::string& path) {
-    const std::string beside = path + ".part";
-    std::error_code error;
-    {
-        std::ofstream out(beside, std::ios::binary);
-        out << BmpBytes(picture);
-        out.close();
-        if (!out) {
-            std::filesystem::remove(beside, error);
-            return "The image could not be written to " + path;
-        }
-    }
-    std::filesystem::rename(beside, path, error);
-    if (error) {
-        std::error_code ignored;
-        std::filesystem::remove(beside, ignored);
-        return "The image could not be written to " + path;
-    }
-    return "";
+    return WriteWhole(path, BmpBytes(picture)) ? "" : "The image could not be written to " + path;
 }
 
 }  // namespace tessarin

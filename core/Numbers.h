@@ -26,4 +26,10 @@ std::optional<double> ParseNumber(std::string_view text);
 /// when the number does not fit.
 std::optional<int32_t> ParseWholeNumber(std::string_view text);
 
+/// The default text form of a number: up to 15 significant digits (7 for a single), no trailing
+/// zeros, a zero before a leading point, and the exponent form, such as 1.5E-20, only for what
+/// those digits cannot hold. What is no number reads "NaN", what is infinite "Infinity".
+std::string NumberText(double value);
+std::string NumberText(float value);
+
 }  // namespace tessarin

@@ -17,11 +17,15 @@ int16_t ValittuKanava = 0;
 int32_t ViimeKvadranttiX = 0;
 int32_t ViimeKvadranttiY = 0;
 
-void PalautaEleet() {
+void PalautaPiirtoele() {
     UusiRegionPaalla = false;
     RegionAloitettu = false;
-    RegionIkkuna = 0;
     KulmienMaara = 0;
+}
+
+void PalautaEleet() {
+    PalautaPiirtoele();
+    RegionIkkuna = 0;
     KulmaX = {};
     KulmaY = {};
     MuokattavaRegion = 0;

@@ -23,7 +23,10 @@ extern int16_t ValittuKanava;       // item chosen in the channel pop-up, from 0
 extern int32_t ViimeKvadranttiX;    // where the last quadrant drag ended, in grid units; 0 none yet
 extern int32_t ViimeKvadranttiY;
 
-/// Puts them back to the state at program start.
+/// `PalautaPiirtoele` means put the drawing gesture back: no region is armed or begun.
+void PalautaPiirtoele();
+
+/// Puts them all back to the state at program start.
 void PalautaEleet();
 
 }  // namespace tessarin

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "core/Ikkuna.h"
+#include "mainwindow/CopySource.h"
 #include "platform/Form.h"
 
 namespace tessarin {
@@ -16,7 +17,7 @@ namespace tessarin {
 ///
 /// The operations of the second group belong to some kinds only. Where a kind lacks one, its
 /// answer is nothing (or false), which a caller can tell from an operation that did nothing.
-class AnalysisWindow : public WindowObject, public FormEvents {
+class AnalysisWindow : public WindowObject, public FormEvents, public CopySource {
   public:
     // Every kind has these.
 
@@ -26,11 +27,8 @@ class AnalysisWindow : public WindowObject, public FormEvents {
     virtual void Piirra() = 0;
     /// Adapts the window to a file that was just put into it.
     virtual void LatauksenJalkeen() = 0;
-    virtual int16_t AnnaID() const = 0;
     /// Item `item`, from 1, of the window's pop-up menu was chosen.
     virtual void MenuValintaReaktio(int item) = 0;
-    /// Puts the window's image on the clipboard, which the caller has cleared.
-    virtual void CopyToClipboard() = 0;
     /// Frees the slot and closes the window; the caller keeps the object alive until it returns.
     virtual void UnloadWindow() = 0;
     /// `Lomake` means form: the child window that shows this one.
@@ -54,6 +52,23 @@ class AnalysisWindow : public WindowObject, public FormEvents {
     virtual bool AsetaPreviewissa(bool /*shown*/) { return false; }
     virtual std::optional<bool> OnkoStatPreviewissa() const { return std::nullopt; }
     virtual bool AsetaStatPreviewissa(bool /*shown*/) { return false; }
+    /// Statistics window: "open", "close", any other word toggles.
+    virtual bool AvaaTaiSuljeStatistics(std::string_view /*what*/) { return false; }
+    virtual std::optional<bool> OnkoStatistiikkaKaytossa() const { return std::nullopt; }
+    /// One number of the statistics last computed: area "ul", "ur", "ll", "lr" or a row number,
+    /// kind "number", "vis", "xmean", "ymean", "xgeomean" or "ygeomean". Nothing for other words.
+    virtual std::optional<double> AnnaStatistiikka(std::string_view /*area*/,
+                                                   std::string_view /*kind*/) const {
+        return std::nullopt;
+    }
+    /// The open statistics table as text; see `Statistics::AnnaKokoStatistiikka`.
+    virtual std::optional<std::string> AnnaKokoStatistiikka(std::string_view /*format*/) const {
+        return std::nullopt;
+    }
+    /// Moves the open statistics window along "x" or "y", in twips.
+    virtual bool LiikutaStatistiikkaLaatikkoa(std::string_view /*axis*/, int32_t /*place*/) {
+        return false;
+    }
     /// Quadrant cross: "open", "close", any other word toggles.
     virtual bool NaytaTaiPiilotaKvadrantti(std::string_view /*what*/) { return false; }
     virtual std::optional<bool> OnkoKvadranttiKaytossa() const { return std::nullopt; }

@@ -31,7 +31,8 @@ const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
 }
 
 PaaIkkuna::PaaIkkuna(const Platform& platform)
-    : platform_(platform), panel_(platform.mainForm), populations_(platform.mainForm) {
+    : platform_(platform), panel_(platform.mainForm), populations_(platform.mainForm),
+      commands_(platform.dialogs, populations_, *this) {
     NaytaTiimalasi = [this](bool busy) {
         platform_.pointer.SetPointer(busy ? MousePointer::kHourglass : MousePointer::kNormal);
     };
@@ -124,9 +125,15 @@ void PaaIkkuna::FilesDropped(const std::vector<std::string>& paths) {
 
 void PaaIkkuna::CopyImages() {
     platform_.clipboard.Clear();
-    if (const auto window = IkkunaPaikassa(ActiveWindow)) {
-        window->CopyToClipboard();
-        ClipSource = ActiveWindow;
+    if (kopioitava_ != nullptr && kopioitava_->AnnaID() != 0) {
+        kopioitava_->CopyToClipboard();
+        ClipSource = kopioitava_->AnnaID();
+    }
+}
+
+void PaaIkkuna::UnohdaKopioitava(const CopySource* source) {
+    if (kopioitava_ == source) {
+        kopioitava_ = nullptr;
     }
 }
 

@@ -9,14 +9,16 @@
 #include <vector>
 
 #include "mainwindow/Companions.h"
+#include "mainwindow/CopySource.h"
 #include "mainwindow/SlidingPanel.h"
 #include "platform/Services.h"
+#include "populations/PopulationCommands.h"
 #include "populations/PopulationPanel.h"
 
 namespace tessarin {
 
 /// `PaaIkkuna` means main window. It owns no session state; that stands in the tables.
-class PaaIkkuna : public MainFormEvents {
+class PaaIkkuna : public MainFormEvents, public SessionView {
   public:
     explicit PaaIkkuna(const Platform& platform);
     ~PaaIkkuna() override;
@@ -34,7 +36,7 @@ class PaaIkkuna : public MainFormEvents {
 
     /// `PiirraKaikki` means draw all: redraws every window in slot order, letting events run in
     /// between, then refreshes the panel and autosaves.
-    void PiirraKaikki();
+    void PiirraKaikki() override;
     /// Writes the session, once something that can is there.
     void TalletaNakyma(std::string_view mode);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
@@ -43,6 +45,11 @@ class PaaIkkuna : public MainFormEvents {
     void HiiriMuualla() { panel_.Sulje(); }
     /// Whether the print preview page is shown.
     bool OnkoEsikatselu() const;
+
+    /// The child window that "Copy to clipboard" copies: the one that became active last.
+    void AsetaKopioitava(CopySource* source) { kopioitava_ = source; }
+    /// It goes; call it from the destructor of what was given.
+    void UnohdaKopioitava(const CopySource* source);
 
     /// Also told each remark, where nobody sees a status bar.
     std::function<void(const std::string&)> onRemark;
@@ -53,9 +60,9 @@ class PaaIkkuna : public MainFormEvents {
     void PanelMouseMove() override { panel_.Avaa(); }
     void FreezePanel(bool frozen) override;
     void PanelRowSelected(int slot) override { populations_.Valitse(slot); }
-    void PanelButtonPressed(PanelButton /*button*/) override {}
-    void PanelColorClicked(int /*slot*/, bool /*twice*/) override {}
-    void PanelLabelDoubleClicked(int /*slot*/) override {}
+    void PanelButtonPressed(PanelButton button) override { commands_.Paina(button); }
+    void PanelColorClicked(int slot, bool twice) override { commands_.VaihdaVari(slot, twice); }
+    void PanelLabelDoubleClicked(int slot) override { commands_.VaihdaLapinakyvyys(slot); }
     void CloseRequested() override;
     void FilesDropped(const std::vector<std::string>& paths) override;
 
@@ -73,6 +80,8 @@ class PaaIkkuna : public MainFormEvents {
     Companions companions_;
     SlidingPanel panel_;
     PopulationPanel populations_;
+    PopulationCommands commands_;
+    CopySource* kopioitava_ = nullptr;
 };
 
 }  // namespace tessarin

@@ -52,6 +52,13 @@ void NaytaNappiMenu(PaaIkkuna& main, int16_t id, std::span<const WindowMenuItem>
     }
 }
 
+int NaytaStatMenu(PaaIkkuna& main, int16_t id, const std::vector<PopupEntry>& items) {
+    PopupIkkuna = id;
+    std::vector<PopupEntry> entries = {{"Copy to clipboard"}};
+    entries.insert(entries.end(), items.begin(), items.end());
+    return main.Services().popups.Show(entries).item;
+}
+
 void NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file) {
     std::vector<PopupEntry> entries;
     for (const Kanava& channel : file.Channels) {

@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "core/Tiedosto.h"
+#include "platform/Menus.h"
 
 namespace tessarin {
 
@@ -21,6 +23,10 @@ struct WindowMenuItem {
 /// behind it the window's items; a choice goes to `MenuValintaReaktio` with its number from 1, or
 /// gates all selected windows, and is followed by an autosave.
 void NaytaNappiMenu(PaaIkkuna& main, int16_t id, std::span<const WindowMenuItem> items);
+
+/// The pop-up of a statistics window: "Copy to clipboard" and behind it its own items. Gives the
+/// number of the item chosen, 0 for the first, or -1.
+int NaytaStatMenu(PaaIkkuna& main, int16_t id, const std::vector<PopupEntry>& items);
 
 /// `KanavaLista` means channel list: lets the user choose a channel of the file for an axis. A
 /// choice goes into `ValittuKanava`, counted from 0; dismissing the list leaves that as it is.

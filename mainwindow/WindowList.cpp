@@ -46,6 +46,7 @@ void LuoIkkunaPaikkaan(PaaIkkuna& main, std::string_view type, int16_t id) {
     PoistaValinnat();
     window->Alusta(id);
     ActiveWindow = id;
+    main.AsetaKopioitava(window.get());
 }
 
 int16_t LuoIkkuna(PaaIkkuna& main, std::string_view type) {
@@ -84,6 +85,7 @@ void AktivoiIkkuna(PaaIkkuna& main, int16_t id) {
     }
     AsetaValinta(id, true);
     ActiveWindow = id;
+    main.AsetaKopioitava(IkkunaPaikassa(id).get());
     if (FileInfoView* info = main.Kumppanit().fileInfo) {
         info->AsetaLista(id);
     }

@@ -24,7 +24,12 @@ std::string Title(int16_t id, const std::string& file) {
 DotPlot::DotPlot(PaaIkkuna& main)
     : main_(main),
       form_(main.Services().mainForm.MakeChild(*this)),
-      tekstit_(CaptionsAtStart()) {}
+      tekstit_(CaptionsAtStart()),
+      tilasto_(main, *this) {}
+
+DotPlot::~DotPlot() {
+    main_.UnohdaKopioitava(this);
+}
 
 const Tiedosto* DotPlot::File() const {
     const int16_t slot = ID == 0 ? int16_t{0} : Ikkunat(ID).FileIndex;
@@ -79,6 +84,8 @@ void DotPlot::Piirra() {
         return;
     }
     const BusyPointer busy;
+    // A redraw is of the picture below whatever a gesture draws above it.
+    Surface().SetAutoRedraw(true);
     const PlotArea area(Surface());
     ReplaceMissingChannels(*file);
     UpdateTitle(*file);
@@ -136,7 +143,7 @@ void DotPlot::DropUndefinedGate() {
 void DotPlot::DrawEvents(const Tiedosto& file, const PlotArea& area) {
     const int32_t step = IsBeingResized() ? KoonMuutosVali(file.EventCount, nopea_.PiirtoVali)
                                           : nopea_.PiirtoVali;
-    const PlotData data{file, KanavaX, KanavaY, NaytettavaPopulaatio, step};
+    const PlotData data = UsedData(file, step);
     if (Tiheys) {
         density_.Piirra(Surface(), area, data, TiheysResoluutio);
     } else {
@@ -146,9 +153,8 @@ void DotPlot::DrawEvents(const Tiedosto& file, const PlotArea& area) {
 
 void DotPlot::DrawRegions(const PlotArea& area) {
     if (AlueViivat) {
-        const PolygonView view{ID, KanavaX, KanavaY, VainTaallaLuodut};
-        PiirraAluerajat(Surface(), area, view, tausta_.Line());
-        PiirraAlueidenNimet(Surface(), area, view);
+        PiirraAluerajat(Surface(), area, EleenNakyma(), tausta_.Line());
+        PiirraAlueidenNimet(Surface(), area, EleenNakyma());
     }
 }
 
@@ -161,7 +167,9 @@ void DotPlot::DrawTitles(const Tiedosto& file, const PlotArea& area) {
 }
 
 void DotPlot::FinishDrawing() {
+    Surface().SetAutoRedraw(!ele_.OnkoPaalla());
     if (!EleKaynnissa && !IsBeingResized()) {
+        PaivitaStatistiikka();
         main_.TalletaNakyma("Autosave");
     }
     if (Previewissa && main_.OnkoEsikatselu()) {
@@ -174,6 +182,8 @@ void DotPlot::CopyToClipboard() {
 }
 
 void DotPlot::UnloadWindow() {
+    ele_.Unohda();
+    tilasto_.AvaaTaiSulje("close");
     VapautaIkkuna(ID);
 }
 
@@ -241,8 +251,10 @@ void DotPlot::Form_Resize() {
     }
     const int width = form_->ScaleWidth();
     const int height = form_->ScaleHeight();
+    const PlotArea before(Surface());
     Surface().SetSize(width > 0 ? width : Surface().Width(),
                       height > 0 ? height : Surface().Height());
+    ele_.KokoMuuttui(before);
     if (form_->HasOwnSize()) {
         OletusKoko = {form_->OuterWidth().count, form_->OuterHeight().count};
     }
@@ -263,33 +275,6 @@ void DotPlot::Form_KeyUp(int /*keyCode*/) {
 void DotPlot::Form_QueryUnload() {
     const auto alive = Ikkunat(ID).Window;  // until this call returns
     UnloadWindow();
-}
-
-void DotPlot::Kuva_MouseDown(const MouseEvent& mouse) {
-    // A menu lets events run while it is open, and with them the closing of this window.
-    const auto alive = Ikkunat(ID).Window;
-    ValikkoAkseli = 0;
-    if (mouse.button != MouseButton::kRight || UusiRegionPaalla) {
-        return;
-    }
-    const PlotArea area(Surface());
-    if (mouse.x > 0 && mouse.x < area.Left() && mouse.y > area.Top() &&
-        mouse.y < area.Bottom()) {
-        ShowChannelList(2);
-    } else if (mouse.x > area.Left() && mouse.x < area.W() && mouse.y > area.Bottom() &&
-               mouse.y < area.H()) {
-        ShowChannelList(1);
-    } else {
-        ShowMenu();
-    }
-}
-
-void DotPlot::Kuva_MouseMove(const MouseEvent& /*mouse*/) {
-    main_.HiiriMuualla();
-    if (IsBeingResized()) {
-        KokoaMuutetaan = 0;
-        Piirra();
-    }
 }
 
 }  // namespace tessarin

@@ -7,20 +7,25 @@
 #include <string>
 
 #include "mainwindow/AnalysisWindow.h"
+#include "platform/Dialogs.h"
 #include "plots/DensityLayer.h"
 #include "plots/FastDraw.h"
 #include "plots/PlotArea.h"
+#include "plots/PolygonGesture.h"
 #include "plots/PopupCaptions.h"
 #include "plots/QuadrantCross.h"
 #include "plots/RegionOutlines.h"
+#include "plots/StatisticsCompanion.h"
+#include "plots/Tilastot.h"
 
 namespace tessarin {
 
 class PaaIkkuna;
 
-class DotPlot : public AnalysisWindow {
+class DotPlot : public AnalysisWindow, private PolygonHost, private StatisticsOwner {
   public:
     explicit DotPlot(PaaIkkuna& main);
+    ~DotPlot() override;
 
     // The window contract.
     void Alusta(int16_t id) override;
@@ -40,6 +45,12 @@ class DotPlot : public AnalysisWindow {
     bool AsetaPreviewissa(bool shown) override;
     std::optional<bool> OnkoStatPreviewissa() const override { return StatPreviewissa; }
     bool AsetaStatPreviewissa(bool shown) override;
+    bool AvaaTaiSuljeStatistics(std::string_view what) override;
+    std::optional<bool> OnkoStatistiikkaKaytossa() const override { return tilasto_.OnkoAuki(); }
+    std::optional<double> AnnaStatistiikka(std::string_view area,
+                                           std::string_view kind) const override;
+    std::optional<std::string> AnnaKokoStatistiikka(std::string_view format) const override;
+    bool LiikutaStatistiikkaLaatikkoa(std::string_view axis, int32_t place) override;
     bool NaytaTaiPiilotaKvadrantti(std::string_view what) override;
     std::optional<bool> OnkoKvadranttiKaytossa() const override {
         return kvadrantti_.KvadranttiKaytossa;
@@ -55,8 +66,8 @@ class DotPlot : public AnalysisWindow {
     void Form_QueryUnload() override;
     void Kuva_MouseDown(const MouseEvent& mouse) override;
     void Kuva_MouseMove(const MouseEvent& mouse) override;
-    void Kuva_MouseUp(const MouseEvent& /*mouse*/) override {}
-    void Kuva_MouseLost() override {}
+    void Kuva_MouseUp(const MouseEvent& mouse) override;
+    void Kuva_MouseLost() override;
 
   private:
     /// The file in the window; nullptr when there is none.
@@ -76,6 +87,30 @@ class DotPlot : public AnalysisWindow {
     void FinishDrawing();
     bool IsBeingResized() const;
 
+    // What a polygon gesture asks.
+    Kuva& EleenPinta() override { return Surface(); }
+    PolygonView EleenNakyma() const override { return {ID, KanavaX, KanavaY, VainTaallaLuodut}; }
+    Rgb EleenVari() const override { return tausta_.Line(); }
+    void AsetaEle(bool running) override { EleKaynnissa = running; }
+    bool OnkoEle() const override { return EleKaynnissa; }
+    void PiirraIkkuna() override { Piirra(); }
+    void PiirraKaikkiIkkunat() override;
+    int16_t UudenRegioninPaikka() const override;
+    void RegionMuuttui(int16_t slot) override;
+
+    // What the statistics window asks.
+    int16_t TilastonIkkuna() const override { return ID; }
+    void PaivitaStatistiikka() override;
+    GridTable TilastoKopio() override;
+    void SuljeStatistiikka() override { AvaaTaiSuljeStatistics("close"); }
+    bool OnkoTilastoEsikatselussa() const override { return StatPreviewissa; }
+    void AsetaTilastoEsikatseluun(bool shown) override { StatPreviewissa = shown; }
+    PlotData UsedData(const Tiedosto& file, int32_t step) const;
+    GridTable Table(const Tiedosto& file, bool copy) const;
+
+    void PressLeft(PixelPoint mouse);
+    void PressRight(PixelPoint mouse);
+
     // The pop-up menus and what their items do.
     void ShowChannelList(int16_t axis);
     void ShowMenu();
@@ -91,6 +126,9 @@ class DotPlot : public AnalysisWindow {
     void ToggleDotSize();
     void ToggleFastDraw();
     void TogglePreview();
+    void ToggleStatistics();
+    void SaveData();
+    std::string AskSavePath(const FileQuestion& question);
     void SetFastDrawCaption();
     struct Item;
     static const std::array<Item, 18>& Items();
@@ -116,6 +154,9 @@ class DotPlot : public AnalysisWindow {
     bool AlueViivat = true;  // polygon outlines and names
     bool VainTaallaLuodut = false;
     Kvadrantti kvadrantti_;
+    MonikulmioEle ele_{*this};
+    TilastoKumppani tilasto_;
+    Tilastot tilastot_;
     bool EleKaynnissa = false;  // a gesture runs here; statistics and autosave wait
     bool Previewissa = false;
     bool StatPreviewissa = false;

@@ -7,6 +7,7 @@
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "plots/DotPlot.h"
+#include "plots/EventText.h"
 
 namespace tessarin {
 
@@ -21,6 +22,7 @@ namespace {
 
 // Items whose captions change.
 enum : int {
+    kStatistics = 1,
     kQuadrant = 2,
     kDensity = 3,
     kRegionLines = 5,
@@ -30,6 +32,7 @@ enum : int {
     kSaveImage = 10,
     kDotSize = 13,
     kFastDraw = 14,
+    kSaveData = 16,
     kPreview = 18,
 };
 
@@ -37,7 +40,7 @@ enum : int {
 
 const std::array<DotPlot::Item, 18>& DotPlot::Items() {
     static const std::array<Item, 18> items = {{
-        {"Open statistics"},
+        {"Open statistics", &DotPlot::ToggleStatistics},
         {"Show Quadrant", &DotPlot::ToggleQuadrant},
         {"Density plot", &DotPlot::ToggleDensity},
         {"-"},
@@ -52,7 +55,7 @@ const std::array<DotPlot::Item, 18>& DotPlot::Items() {
         {"Large dots", &DotPlot::ToggleDotSize},
         {"Fast draw mode", &DotPlot::ToggleFastDraw},
         {"-"},
-        {"Save data as .TXT..."},
+        {"Save data as .TXT...", &DotPlot::SaveData},
         {"-"},
         {"Show in print preview page", &DotPlot::TogglePreview},
     }};
@@ -75,7 +78,8 @@ void DotPlot::MenuValintaReaktio(int item) {
 }
 
 bool DotPlot::IsItemEnabled(int item) const {
-    const bool needsFile = item == kCopy || item == kSaveImage || item == kFastDraw;
+    const bool needsFile = item == kCopy || item == kSaveImage || item == kFastDraw ||
+                           item == kSaveData;
     const bool needsPage = item == kPreview;
     return Items()[static_cast<std::size_t>(item) - 1].action != nullptr &&
            (!needsFile || File() != nullptr) &&
@@ -144,21 +148,50 @@ void DotPlot::CopyImage() {
 }
 
 void DotPlot::SaveImage() {
-    Dialogs& dialogs = main_.Services().dialogs;
-    const std::string path =
-        dialogs.SaveFile({"Save the image", "BMP files (*.BMP)|*.bmp"});
+    const std::string path = AskSavePath({"Save the image", "BMP files (*.BMP)|*.bmp"});
     if (path.empty()) {
-        return;
-    }
-    if (std::filesystem::exists(path) &&
-        !dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
-                     QuestionButtons::kOkCancel)) {
         return;
     }
     const std::string failure = TalletaKuva(Surface().Image(), path);
     if (!failure.empty()) {
-        dialogs.Message(failure, "Save the image");
+        main_.Services().dialogs.Message(failure, "Save the image");
     }
+}
+
+void DotPlot::SaveData() {
+    const std::string path =
+        AskSavePath({"Save the data", "TXT files (tab delimited) (*.TXT)|*.txt"});
+    if (path.empty()) {
+        return;
+    }
+    const std::string failure = TalletaTapahtumat(UsedData(*File(), 1), path);
+    if (!failure.empty()) {
+        main_.Services().dialogs.Message(failure, "Save the data");
+    }
+}
+
+// Asks where to save; empty when the user thinks better of it.
+std::string DotPlot::AskSavePath(const FileQuestion& question) {
+    Dialogs& dialogs = main_.Services().dialogs;
+    const std::string path = dialogs.SaveFile(question);
+    if (!path.empty() && std::filesystem::exists(path) &&
+        !dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
+                     QuestionButtons::kOkCancel)) {
+        return "";
+    }
+    return path;
+}
+
+void DotPlot::ToggleStatistics() {
+    AvaaTaiSuljeStatistics("toggle");
+}
+
+bool DotPlot::AvaaTaiSuljeStatistics(std::string_view what) {
+    if (tilasto_.AvaaTaiSulje(what)) {
+        tekstit_.Aseta(kStatistics, tilasto_.OnkoAuki() ? "Close statistics" : "Open statistics");
+        PaivitaStatistiikka();
+    }
+    return true;
 }
 
 void DotPlot::InvertBackground() {

@@ -19,6 +19,13 @@ struct Kvadrantti {
     /// drag of any cross ended, else in the middle. True when something changed.
     bool NaytaTaiPiilota(std::string_view what);
 
+    /// Whether a press takes hold of the cross: its centre is shown and hit.
+    bool Osuu(const PlotArea& area, PixelPoint mouse) const;
+    /// Draws the cross above the picture while it is dragged; it stays inside the plot area.
+    static void PiirraLiikkuva(Kuva& surface, const PlotArea& area, PixelPoint mouse, Rgb color);
+    /// The drag ends here.
+    void Pudota(const PlotArea& area, PixelPoint mouse);
+
     void Piirra(Kuva& surface, const PlotArea& area, Rgb color) const;
 };
 

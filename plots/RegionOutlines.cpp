@@ -15,21 +15,8 @@ int CornerCount(const Populaatio& polygon) {
     return std::clamp<int>(polygon.Corners, 0, kMaxCorners);
 }
 
-std::vector<PixelPoint> PixelCorners(const PlotArea& area, const Populaatio& polygon) {
-    std::vector<PixelPoint> corners;
-    for (std::size_t i = 1; i <= static_cast<std::size_t>(CornerCount(polygon)); ++i) {
-        corners.push_back(area.ToPixel({static_cast<double>(polygon.X[i]),
-                                        static_cast<double>(polygon.Y[i])}));
-    }
-    return corners;
-}
-
 bool IsInHand(int16_t slot) {
     return slot == MuokattavaRegion || slot == SiirrettavaRegion;
-}
-
-double HalfWidth(const Populaatio& polygon) {
-    return static_cast<double>(Length(polygon.Name)) * kMerkinLeveys / 2;
 }
 
 // The base lies half the name's width and 4 off the middle of the corners. Those are taken as
@@ -42,7 +29,7 @@ void UpdateTitleBase(Populaatio& polygon) {
         x += static_cast<double>(polygon.X[i]);
         y += static_cast<double>(polygon.Y[i]);
     }
-    polygon.TitleBaseX = ToInt32(Int(x / std::max(1, count) - HalfWidth(polygon)));
+    polygon.TitleBaseX = ToInt32(Int(x / std::max(1, count) - NimenPuolileveys(polygon)));
     polygon.TitleBaseY = ToInt32(Int(y / std::max(1, count))) - 4;
 }
 
@@ -53,6 +40,19 @@ bool OnkoNakyva(const PolygonView& view, int16_t slot) {
     return polygon.Defined && polygon.Type == "Polygon" && polygon.AxisX == view.KanavaX &&
            polygon.AxisY == view.KanavaY &&
            (!view.VainTaallaLuodut || polygon.Created == view.window);
+}
+
+std::vector<PixelPoint> PikseliKulmat(const PlotArea& area, const Populaatio& polygon) {
+    std::vector<PixelPoint> corners;
+    for (std::size_t i = 1; i <= static_cast<std::size_t>(CornerCount(polygon)); ++i) {
+        corners.push_back(area.ToPixel({static_cast<double>(polygon.X[i]),
+                                        static_cast<double>(polygon.Y[i])}));
+    }
+    return corners;
+}
+
+double NimenPuolileveys(const Populaatio& polygon) {
+    return static_cast<double>(Length(polygon.Name)) * kMerkinLeveys / 2;
 }
 
 void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb color) {
@@ -66,7 +66,7 @@ void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb co
 void PiirraAluerajat(Kuva& surface, const PlotArea& area, const PolygonView& view, Rgb color) {
     for (int16_t slot = 1; slot <= MaxPopulations; ++slot) {
         if (OnkoNakyva(view, slot) && !IsInHand(slot)) {
-            PiirraMonikulmio(surface, PixelCorners(area, Populaatiot(slot)), color);
+            PiirraMonikulmio(surface, PikseliKulmat(area, Populaatiot(slot)), color);
         }
     }
 }
@@ -89,7 +89,7 @@ PixelPoint NimenPaikka(const PlotArea& area, const Populaatio& polygon) {
     const PixelPoint middle =
         area.ToPixel({static_cast<double>(polygon.TitleBaseX) + polygon.TitleX,
                       static_cast<double>(polygon.TitleBaseY) + polygon.TitleY});
-    return {middle.x - HalfWidth(polygon), middle.y - kAbove};
+    return {middle.x - NimenPuolileveys(polygon), middle.y - kAbove};
 }
 
 }  // namespace tessarin

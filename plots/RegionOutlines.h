@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "core/Populaatio.h"
 #include "plots/PlotArea.h"
@@ -19,6 +20,12 @@ struct PolygonView {
 
 /// Whether the polygon in a population slot stands in such a window.
 bool OnkoNakyva(const PolygonView& view, int16_t slot);
+
+/// Its corners in pixels.
+std::vector<PixelPoint> PikseliKulmat(const PlotArea& area, const Populaatio& polygon);
+
+/// Half the width of its name, in pixels.
+double NimenPuolileveys(const Populaatio& polygon);
 
 /// Joins the corners by lines, and the last to the first.
 void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb color);

@@ -2,8 +2,11 @@
 
 #include <memory>
 
+#include "core/PopulationEvaluation.h"
 #include "mainwindow/WindowRegistry.h"
 #include "plots/DotPlot.h"
+#include "plots/PolygonMembership.h"
+#include "populations/Definitions.h"
 
 namespace tessarin {
 
@@ -11,6 +14,8 @@ void RekisteroiKuvaajat() {
     RekisteroiIkkunaLaji({"DotPlot", "CreateDotPlot", true, [](PaaIkkuna& main) {
                               return std::make_shared<DotPlot>(main);
                           }});
+    AsetaArvioija("Polygon", TarkistaMonikulmio);
+    AsetaMaaritelmanArvioija(CheckDefinition);
 }
 
 }  // namespace tessarin

@@ -7,6 +7,9 @@ namespace tessarin {
 
 void PopulationPanel::Rakenna() {
     form_.BuildPanel(MaxPopulations, MaxDefinitions);
+    form_.SetPanelButtonEnabled(PanelButton::kLuoUusiRegion, true);
+    form_.SetPanelButtonEnabled(PanelButton::kLuoUusiMaaritelma, true);
+    form_.SetPanelButtonEnabled(PanelButton::kPoistaMaaritelma, true);
     Valitse(1);
     Valitse(MaxPopulations + 1);
     form_.SelectPanelRow(selectedPopulation_);
@@ -36,11 +39,19 @@ void PopulationPanel::PaivitaRegionLista() {
                 static_cast<int16_t>(slot);
         }
     }
+    EnableButtons();
+}
+
+void PopulationPanel::EnableButtons() {
+    const bool defined = Populaatiot(selectedPopulation_).Defined;
+    form_.SetPanelButtonEnabled(PanelButton::kPoistaRegion, defined);
+    form_.SetPanelButtonEnabled(PanelButton::kMuutaRegioninNimi, defined);
 }
 
 void PopulationPanel::Valitse(int slot) {
     (slot <= MaxPopulations ? selectedPopulation_ : selectedDefinition_) =
         static_cast<int16_t>(slot);
+    EnableButtons();
 }
 
 std::vector<std::string> PopulationPanel::ShowPopulation() const {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/Muuttujat.h"
 #include "core/Taulu.h"
 #include "platform/MainForm.h"
 
@@ -34,10 +35,12 @@ class PopulationPanel {
 
   private:
     void UpdateRow(int slot);
+    /// A free slot can be neither deleted nor renamed.
+    void EnableButtons();
 
     MainForm& form_;
-    int16_t selectedPopulation_ = 0;
-    int16_t selectedDefinition_ = 0;
+    int16_t selectedPopulation_ = 1;
+    int16_t selectedDefinition_ = MaxPopulations + 1;
     Taulu<int16_t> naytaValikonPopulaatiot_;  // the slot of each menu item behind item 0
 };
 

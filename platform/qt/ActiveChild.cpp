@@ -35,7 +35,7 @@ void ActiveChild::Became(QMdiSubWindow* window) {
         return;
     }
     current_ = child;
-    child->Events()->Form_Activate();
+    child->Events()->Activated();
 }
 
 }  // namespace tessarin

@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "platform/Form.h"
+
 namespace tessarin {
 namespace {
 
@@ -56,16 +58,11 @@ void ChildInput::Pressed(const QWindow& window, const QMouseEvent& mouse) {
     ChildWindow* child = QApplication::activePopupWidget() == nullptr
                              ? ChildAt(window, mouse.position().toPoint())
                              : nullptr;
-    FormEvents* events = child == nullptr ? nullptr : child->Events();
-    if (events == nullptr) {
+    if (child == nullptr || child->Events() == nullptr) {
         return;
     }
     // Shift may have been pressed or let go while another program had the keyboard.
-    if (mouse.modifiers().testFlag(Qt::ShiftModifier)) {
-        events->Form_KeyDown(kKeyShift);
-    } else {
-        events->Form_KeyUp(kKeyShift);
-    }
+    TellShift(*child, mouse.modifiers().testFlag(Qt::ShiftModifier));
     active_.Activate(*child);
 }
 
@@ -74,11 +71,22 @@ void ChildInput::KeyMoved(const QKeyEvent& key) {
     if (child == nullptr || child->Events() == nullptr || key.isAutoRepeat()) {
         return;
     }
-    const bool isShift = key.key() == Qt::Key_Shift;
-    if (key.type() == QEvent::KeyRelease) {
-        child->Events()->Form_KeyUp(isShift ? kKeyShift : kOtherKey);
-    } else if (isShift) {
-        child->Events()->Form_KeyDown(kKeyShift);
+    if (key.key() == Qt::Key_Shift) {
+        TellShift(*child, key.type() == QEvent::KeyPress);
+    } else if (key.type() == QEvent::KeyRelease) {
+        child->Events()->KeyUp(kOtherKey);
+    }
+}
+
+void ChildInput::TellShift(ChildWindow& child, bool down) {
+    if (holder_ && holder_ != &child && holder_->Events() != nullptr) {
+        holder_->Events()->KeyUp(kKeyShift);
+    }
+    holder_ = down ? &child : nullptr;
+    if (down) {
+        child.Events()->KeyDown(kKeyShift);
+    } else {
+        child.Events()->KeyUp(kKeyShift);
     }
 }
 

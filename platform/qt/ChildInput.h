@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <QObject>
+#include <QPointer>
 
 #include "platform/qt/ActiveChild.h"
 
@@ -18,8 +19,12 @@ class ChildInput : public QObject {
   private:
     void Pressed(const QWindow& window, const QMouseEvent& mouse);
     void KeyMoved(const QKeyEvent& key);
+    /// Who heard that Shift is down hears also that it is up, when another child is active by then
+    /// too, perhaps one that cares for no keys.
+    void TellShift(ChildWindow& child, bool down);
 
     ActiveChild& active_;
+    QPointer<ChildWindow> holder_;  // has heard that Shift is down
 };
 
 }  // namespace tessarin

@@ -1,6 +1,7 @@
 #include "platform/qt/ChildWindow.h"
 
 #include <QCloseEvent>
+#include <QPointer>
 
 namespace tessarin {
 namespace {
@@ -10,15 +11,9 @@ constexpr int kSmallest = 24;
 
 }  // namespace
 
-ChildWindow::ChildWindow(QtKuva& kuva, FormEvents& events)
-    : picture_(new KuvaWidget(kuva, events)), events_(&events) {
-    setWidget(picture_);
+ChildWindow::ChildWindow(QWidget* content, ChildEvents& events) : events_(&events) {
+    setWidget(content);
     resize(kFirstSize, kFirstSize);
-}
-
-void ChildWindow::Detach() {
-    picture_->Detach();
-    events_ = nullptr;
 }
 
 QSize ChildWindow::minimumSizeHint() const {
@@ -32,7 +27,7 @@ void ChildWindow::closeEvent(QCloseEvent* event) {
         return;
     }
     const QPointer<ChildWindow> self(this);
-    events_->Form_QueryUnload();
+    events_->Closing();
     if (self && events_ != nullptr) {
         hide();
     }

@@ -1,22 +1,31 @@
-// The frame of a child window: title bar, edges, and the picture inside.
+// The frame of a child window: title bar, edges, and the content inside.
 #pragma once
 
 #include <QMdiSubWindow>
 
-#include "platform/Form.h"
-#include "platform/qt/KuvaWidget.h"
-
 namespace tessarin {
 
-/// Belongs to the area that it stands in; a `QtForm` steers it and detaches when it goes.
+/// What a child window hears, whatever it shows. Its form passes on what its receiver wants.
+class ChildEvents {
+  public:
+    virtual ~ChildEvents() = default;
+
+    virtual void Activated() = 0;
+    virtual void KeyDown(int keyCode) = 0;
+    virtual void KeyUp(int keyCode) = 0;
+    /// The receiver may destroy the form, and itself, during the call.
+    virtual void Closing() = 0;
+};
+
+/// Belongs to the area that it stands in; a `ChildFrame` steers it and detaches when it goes.
 class ChildWindow : public QMdiSubWindow {
   public:
-    ChildWindow(QtKuva& kuva, FormEvents& events);
+    /// Takes over the content.
+    ChildWindow(QWidget* content, ChildEvents& events);
 
-    KuvaWidget& Picture() { return *picture_; }
     /// Who hears of this window; nullptr once it is detached.
-    FormEvents* Events() const { return events_; }
-    void Detach();
+    ChildEvents* Events() const { return events_; }
+    void Detach() { events_ = nullptr; }
 
     QSize minimumSizeHint() const override;
 
@@ -24,8 +33,7 @@ class ChildWindow : public QMdiSubWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    KuvaWidget* picture_;
-    FormEvents* events_;
+    ChildEvents* events_;
 };
 
 }  // namespace tessarin

@@ -1,39 +1,43 @@
-// A child window of the logic, standing in the main window's area.
+// A child window that shows a picture surface.
 #pragma once
 
 #include <QPointer>
 
 #include "platform/Form.h"
-#include "platform/qt/ActiveChild.h"
-#include "platform/qt/ChildWindow.h"
+#include "platform/qt/ChildFrame.h"
+#include "platform/qt/KuvaWidget.h"
 #include "platform/qt/QtKuva.h"
 
 namespace tessarin {
 
-class QtForm : public Form {
+class QtForm : public Form, private ChildEvents {
   public:
     QtForm(QMdiArea& area, ActiveChild& active, FormEvents& events);
     ~QtForm() override;
     QtForm(const QtForm&) = delete;
     QtForm& operator=(const QtForm&) = delete;
 
-    void SetCaption(std::string_view caption) override;
-    void SetOuterSize(Twips width, Twips height) override;
-    Twips OuterWidth() const override;
-    Twips OuterHeight() const override;
-    bool HasOwnSize() const override;
-    int ScaleWidth() const override { return ClientSize().width(); }
-    int ScaleHeight() const override { return ClientSize().height(); }
-    void Show() override;
-    void Hide() override;
+    void SetCaption(std::string_view caption) override { frame_.SetCaption(caption); }
+    void SetOuterSize(Twips width, Twips height) override { frame_.SetOuterSize(width, height); }
+    Twips OuterWidth() const override { return frame_.OuterWidth(); }
+    Twips OuterHeight() const override { return frame_.OuterHeight(); }
+    bool HasOwnSize() const override { return frame_.HasOwnSize(); }
+    int ScaleWidth() const override { return frame_.ClientSize().width(); }
+    int ScaleHeight() const override { return frame_.ClientSize().height(); }
+    void Show() override { frame_.Show(); }
+    void Hide() override { frame_.Hide(); }
     Kuva& Surface() override { return kuva_; }
 
   private:
-    QSize ClientSize() const;
+    void Activated() override { events_.Form_Activate(); }
+    void KeyDown(int keyCode) override { events_.Form_KeyDown(keyCode); }
+    void KeyUp(int keyCode) override { events_.Form_KeyUp(keyCode); }
+    void Closing() override { events_.Form_QueryUnload(); }
 
+    FormEvents& events_;
     QtKuva kuva_;
-    QPointer<ChildWindow> window_;  // gone when the main window goes first
-    QPointer<ActiveChild> active_;
+    QPointer<KuvaWidget> picture_;  // the frame's
+    ChildFrame frame_;
 };
 
 }  // namespace tessarin

@@ -5,6 +5,8 @@
 #include "platform/qt/AboutBox.h"
 #include "platform/qt/Conversions.h"
 #include "platform/qt/QtForm.h"
+#include "platform/qt/QtGridForm.h"
+#include "platform/qt/QtKuva.h"
 
 namespace tessarin {
 namespace {
@@ -71,6 +73,16 @@ void QtMainForm::SetPanelButtonEnabled(PanelButton button, bool enabled) {
 
 std::unique_ptr<Form> QtMainForm::MakeChild(FormEvents& events) {
     return std::make_unique<QtForm>(window_->Area(), *active_, events);
+}
+
+std::unique_ptr<GridForm> QtMainForm::MakeGridChild(GridFormEvents& events) {
+    return std::make_unique<QtGridForm>(window_->Area(), *active_, events);
+}
+
+std::unique_ptr<Kuva> QtMainForm::MakeSurface() {
+    auto surface = std::make_unique<QtKuva>();
+    surface->SetRatio(window_->devicePixelRatioF());
+    return surface;
 }
 
 void QtMainForm::ShowAbout(std::span<const std::string> lines) {

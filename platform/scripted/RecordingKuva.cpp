@@ -7,8 +7,10 @@ namespace tessarin {
 void RecordingKuva::Cls() {
     texts.clear();
     strokes.clear();
-    blocksPainted = 0;
-    redraws += AutoRedraw() ? 1 : 0;
+    if (AutoRedraw()) {
+        blocksPainted = 0;
+        ++redraws;
+    }
     RasterKuva::Cls();
 }
 

@@ -30,9 +30,10 @@ class RecordingKuva : public RasterKuva {
     void Line(double x1, double y1, double x2, double y2, Rgb color, LineForm form) override;
     void PaintBlocks(const Blocks& blocks) override;
 
-    /// What was drawn since the last `Cls`.
+    /// What was drawn since the last `Cls`, of either layer.
     std::vector<Text> texts;
     std::vector<Stroke> strokes;
+    /// Dots and cells since the last `Cls` of the persistent layer.
     std::size_t blocksPainted = 0;
     /// Changes of the whole picture: calls of `Cls` on the persistent layer.
     int redraws = 0;

@@ -31,6 +31,8 @@ class ScriptedForm : public Form {
     void Press(double x, double y, MouseButton button = MouseButton::kLeft);
     void Move(double x, double y);
     void Release(double x, double y, MouseButton button = MouseButton::kLeft);
+    /// The mouse is taken away while a button is down.
+    void Lose() { events_.Kuva_MouseLost(); }
     void KeyDown(int keyCode) { events_.Form_KeyDown(keyCode); }
     void KeyUp(int keyCode) { events_.Form_KeyUp(keyCode); }
     /// The form is gone when this returns.

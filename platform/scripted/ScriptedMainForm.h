@@ -7,6 +7,7 @@
 
 #include "platform/MainForm.h"
 #include "platform/scripted/ScriptedForm.h"
+#include "platform/scripted/ScriptedGridForm.h"
 
 namespace tessarin {
 
@@ -25,6 +26,8 @@ class ScriptedMainForm : public MainForm {
     void SelectPanelRow(int slot) override { selectedRows.push_back(slot); }
     void SetPanelButtonEnabled(PanelButton button, bool on) override { buttons[button] = on; }
     std::unique_ptr<Form> MakeChild(FormEvents& formEvents) override;
+    std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& formEvents) override;
+    std::unique_ptr<Kuva> MakeSurface() override { return std::make_unique<RecordingKuva>(); }
     void ShowAbout(std::span<const std::string> lines) override;
     Bitmap Snapshot() override { return {}; }
 
@@ -43,6 +46,7 @@ class ScriptedMainForm : public MainForm {
     std::map<PanelButton, bool> buttons;
     std::vector<std::string> about;
     std::vector<ScriptedForm*> children;  ///< that exist now, in the order of their making
+    std::vector<ScriptedGridForm*> grids;  ///< likewise
 
   private:
     MenuItem* Find(std::string_view command);

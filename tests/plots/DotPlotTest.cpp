@@ -6,7 +6,7 @@
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
 #include "plots/DensityLayer.h"
-#include "tests/support/ProgramFixture.h"
+#include "tests/support/PlotFixture.h"
 
 namespace tessarin {
 namespace {
@@ -14,38 +14,7 @@ namespace {
 constexpr uint32_t kBlack = 0xff000000;
 constexpr uint32_t kWhite = 0xffffffff;
 
-class DotPlotTest : public ProgramTest {
-  protected:
-    // A window whose surface is 236 by 236 pixels: the plot area is 200 by 200, so that with a
-    // range of 1000 a value of 5 is one pixel.
-    ScriptedForm& Open(const std::vector<TestChannel>& channels) {
-        OletusKoko = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
-                      TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
-        PutFile(1, "tube.fcs", channels);
-        CurrentFile = 1;
-        return NewDotPlot();
-    }
-
-    static uint32_t DotAt(const ScriptedForm& form, int x, int y) {
-        return form.surface.PixelAt(18 + x, 236 - 18 - y);
-    }
-
-    static void DefinePolygon(int16_t slot, const std::string& name, Rgb color,
-                              const std::vector<int32_t>& members) {
-        Populaatio& row = Populaatiot(slot);
-        row.Defined = true;
-        row.Name = name;
-        row.Type = "Polygon";
-        row.AxisX = 1;
-        row.AxisY = 2;
-        row.Red = color.red;
-        row.Green = color.green;
-        row.Blue = color.blue;
-        for (const int32_t event : members) {
-            Tiedostot(1).Membership(event, slot) = 1;
-        }
-    }
-};
+using DotPlotTest = PlotTest;
 
 TEST_F(DotPlotTest, PutsEventsWhereTheirValuesSay) {
     const ScriptedForm& form = Open({{"FSC", false, 1000, {0, 500, 1000, 1005, -20}},

@@ -27,6 +27,18 @@ void RecordingForm::NoteMouse(const std::string& what, const MouseEvent& mouse) 
          std::to_string(static_cast<int>(mouse.y)));
 }
 
+void RecordingGrid::Form_QueryUnload() {
+    Note("unload");
+    if (!keepsFormOnClose) {
+        form.reset();
+    }
+}
+
+void RecordingGrid::Grid_RightPress() {
+    Note("right");
+    onPress();
+}
+
 void RecordingMain::FilesDropped(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
         Note("dropped " + path);
@@ -64,9 +76,9 @@ ChildWindow& WindowTest::Shown(int place) {
     return dynamic_cast<ChildWindow&>(*Window().Area().subWindowList().at(place));
 }
 
-void WindowTest::Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys) {
-    QTest::mouseClick(Window().windowHandle(), Qt::LeftButton, keys,
-                      widget.mapTo(&Window(), place));
+void WindowTest::Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys,
+                       Qt::MouseButton button) {
+    QTest::mouseClick(Window().windowHandle(), button, keys, widget.mapTo(&Window(), place));
 }
 
 void WindowTest::DoubleClick(QWidget& widget, QPoint place) {

@@ -44,6 +44,28 @@ class RecordingForm : public FormEvents {
     Log& log_;
 };
 
+/// The same for a window with a table; moves are only counted.
+class RecordingGrid : public GridFormEvents {
+  public:
+    RecordingGrid(std::string name, Log& log) : name_(std::move(name)), log_(log) {}
+
+    void Form_Activate() override { Note("activate"); }
+    void Form_QueryUnload() override;
+    void Grid_RightPress() override;
+    void Grid_MouseMove() override { ++moves; }
+
+    std::unique_ptr<GridForm> form;
+    int moves = 0;
+    bool keepsFormOnClose = false;
+    std::function<void()> onPress = [] {};
+
+  private:
+    void Note(const std::string& what) { log_.push_back(name_ + " " + what); }
+
+    std::string name_;
+    Log& log_;
+};
+
 class RecordingMain : public MainFormEvents {
   public:
     void Command(std::string_view command) override { Note("command " + std::string(command)); }
@@ -80,11 +102,12 @@ class WindowTest : public testing::Test {
     std::unique_ptr<RecordingForm> MakeChild(const std::string& name);
     /// What Qt shows for the child that was made at that place, counted from 0.
     ChildWindow& Shown(int place);
-    KuvaWidget& Picture(int place) { return Shown(place).Picture(); }
+    KuvaWidget& Picture(int place) { return dynamic_cast<KuvaWidget&>(*Shown(place).widget()); }
     MainWindow& Window() { return platform_.Main().Window(); }
     MainForm& Main() { return platform_.Main(); }
     /// Clicks and moves that go through the main window, as the desktop sends them.
-    void Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys = {});
+    void Click(QWidget& widget, QPoint place, Qt::KeyboardModifiers keys = {},
+               Qt::MouseButton button = Qt::LeftButton);
     void DoubleClick(QWidget& widget, QPoint place);
     void MoveTo(QWidget& widget, QPoint place);
     /// What the children said since the last call, "move" left out.

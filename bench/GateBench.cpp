@@ -1,0 +1,113 @@
+// Evaluating a polygon and a definition, beside copies of the columns that they read and write.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "BenchFile.h"
+#include "core/FCSReader.h"
+#include "core/Muuttujat.h"
+#include "plots/PolygonMembership.h"
+#include "populations/Definitions.h"
+
+namespace tessarin {
+namespace {
+
+constexpr int16_t kX = 5;
+constexpr int16_t kY = 6;
+constexpr int16_t kNames = 4;
+
+// An octagon around the middle cloud of two log channels.
+void DefineOctagon(Populaatio& population) {
+    population = {.Corners = 8,
+                  .X = {0, 5000, 5800, 6200, 5900, 5100, 4300, 4000, 4400},
+                  .Y = {0, 3800, 4000, 4700, 5500, 5900, 5600, 4800, 4100},
+                  .Name = "Poly-1",
+                  .Defined = true,
+                  .AxisX = kX,
+                  .AxisY = kY,
+                  .Type = "Polygon"};
+}
+
+void Polygon(benchmark::State& state) {
+    PalautaAlkutila();
+    Tiedostot(1) = LueFCS(BenchPath());
+    DefineOctagon(Populaatiot(1));
+    for (auto _ : state) {
+        TarkistaMonikulmio(1);
+    }
+    const auto members = Tiedostot(1).Membership.Sarake(1);
+    state.counters["members"] = static_cast<double>(std::ranges::count(members, 1));
+    PalautaAlkutila();
+}
+BENCHMARK(Polygon)->Name("Polygon/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+void PolygonPlain(benchmark::State& state) {
+    const Tiedosto& file = BenchFile();
+    const auto xs = file.Data.Sarake(kX);
+    const auto ys = file.Data.Sarake(kY);
+    const std::vector<uint8_t> flags(kBenchEvents, 1);
+    std::vector<float> x(kBenchEvents);
+    std::vector<float> y(kBenchEvents);
+    std::vector<uint8_t> inside(kBenchEvents);
+    for (auto _ : state) {
+        std::ranges::copy(xs, x.begin());
+        std::ranges::copy(ys, y.begin());
+        std::ranges::copy(flags, inside.begin());
+        benchmark::DoNotOptimize(x.data());
+        benchmark::DoNotOptimize(y.data());
+        benchmark::DoNotOptimize(inside.data());
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(PolygonPlain)->Name("Polygon/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+// A file of nothing but members, spread at random over the first populations.
+void FillMembers(Tiedosto& file) {
+    file.Valid = true;
+    file.EventCount = kBenchEvents;
+    file.Membership.Mitoita(kBenchEvents, kPopulationSlots);
+    std::mt19937 random(5);
+    for (int16_t slot = 1; slot <= kNames; ++slot) {
+        std::ranges::generate(file.Membership.Sarake(slot),
+                              [&random] { return static_cast<uint8_t>(random() % 2); });
+    }
+}
+
+void Definition(benchmark::State& state) {
+    PalautaAlkutila();
+    FillMembers(Tiedostot(1));
+    for (int16_t slot = 1; slot <= kNames; ++slot) {
+        Populaatiot(slot).Defined = true;
+        Populaatiot(slot).Name = "Poly-" + std::to_string(slot);
+    }
+    for (auto _ : state) {
+        const std::string message =
+            TarkistaMaaritelma(MaxPopulations + 1, "Poly-1 and (Poly-2 or Poly-3) and not Poly-4");
+        if (!message.empty()) {
+            state.SkipWithError(message.c_str());
+        }
+    }
+    PalautaAlkutila();
+}
+BENCHMARK(Definition)->Name("Definition/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+void DefinitionPlain(benchmark::State& state) {
+    Tiedosto file;
+    FillMembers(file);
+    std::vector<uint8_t> copy(std::size_t{kNames} * kBenchEvents);
+    for (auto _ : state) {
+        for (int16_t slot = 1; slot <= kNames; ++slot) {
+            std::ranges::copy(file.Membership.Sarake(slot),
+                              copy.begin() + std::ptrdiff_t{slot - 1} * kBenchEvents);
+        }
+        benchmark::DoNotOptimize(copy.data());
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(DefinitionPlain)->Name("Definition/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+}  // namespace
+}  // namespace tessarin

@@ -1,0 +1,106 @@
+#include "platform/qt/ChildFrame.h"
+
+#include <QLayout>
+#include <algorithm>
+
+#include "platform/qt/Conversions.h"
+
+namespace tessarin {
+namespace {
+
+// Sizes and places come from sheets too. Beyond this a picture would not fit into memory, and a
+// window would not be found again.
+constexpr int kLargest = 8192;
+
+int SizePixels(Twips size) {
+    return std::clamp(PixelsFromTwips(size), 1, kLargest);
+}
+
+int PlacePixels(Twips place) {
+    return std::clamp(PixelsFromTwips(place), -kLargest, kLargest);
+}
+
+}  // namespace
+
+ChildFrame::ChildFrame(QMdiArea& area, ActiveChild& active, QWidget* content, ChildEvents& events)
+    : window_(new ChildWindow(content, events)), active_(&active) {
+    area.addSubWindow(window_);
+}
+
+ChildFrame::~ChildFrame() {
+    if (window_ && active_) {
+        window_->Detach();
+        active_->TakeAway(*window_);
+    }
+}
+
+void ChildFrame::SetCaption(std::string_view caption) {
+    if (window_) {
+        window_->setWindowTitle(AsTitle(caption));
+    }
+}
+
+void ChildFrame::SetOuterSize(Twips width, Twips height) {
+    if (!window_) {
+        return;
+    }
+    if (!HasOwnSize()) {
+        window_->showNormal();
+    }
+    window_->resize(SizePixels(width), SizePixels(height));
+}
+
+Twips ChildFrame::OuterWidth() const {
+    return TwipsFromPixels(window_ ? window_->width() : 0);
+}
+
+Twips ChildFrame::OuterHeight() const {
+    return TwipsFromPixels(window_ ? window_->height() : 0);
+}
+
+bool ChildFrame::HasOwnSize() const {
+    return window_ && !window_->isMinimized() && !window_->isMaximized();
+}
+
+QSize ChildFrame::ClientSize() const {
+    if (!window_ || window_->isMinimized()) {
+        return {0, 0};
+    }
+    // A window that is not shown yet has not laid out its inside.
+    window_->layout()->activate();
+    return window_->widget()->size().expandedTo({0, 0});
+}
+
+Twips ChildFrame::Left() const {
+    return TwipsFromPixels(window_ ? window_->x() : 0);
+}
+
+Twips ChildFrame::Top() const {
+    return TwipsFromPixels(window_ ? window_->y() : 0);
+}
+
+void ChildFrame::SetPlace(Twips left, Twips top) {
+    if (window_) {
+        window_->move(PlacePixels(left), PlacePixels(top));
+    }
+}
+
+void ChildFrame::Show() {
+    if (!window_ || !active_) {
+        return;
+    }
+    if (window_->isMinimized()) {
+        window_->showNormal();
+    } else {
+        window_->show();
+    }
+    active_->Activate(*window_);
+}
+
+void ChildFrame::Hide() {
+    if (window_ && active_) {
+        active_->TakeAway(*window_);
+    }
+}
+
+}  // namespace tessarin

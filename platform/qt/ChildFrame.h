@@ -1,0 +1,45 @@
+// What all forms do with their child windows: caption, size, place, showing, the end.
+#pragma once
+
+#include <QPointer>
+#include <string_view>
+
+#include "platform/Twips.h"
+#include "platform/qt/ActiveChild.h"
+#include "platform/qt/ChildWindow.h"
+
+namespace tessarin {
+
+/// The handle through which a form holds its window. The main window may go first; every call is
+/// harmless then, and sizes and places are 0. Destroying it takes the window off the screen, and
+/// nobody hears of that window again.
+class ChildFrame {
+  public:
+    /// Takes over the content, which fills the window.
+    ChildFrame(QMdiArea& area, ActiveChild& active, QWidget* content, ChildEvents& events);
+    ~ChildFrame();
+    ChildFrame(const ChildFrame&) = delete;
+    ChildFrame& operator=(const ChildFrame&) = delete;
+
+    void SetCaption(std::string_view caption);
+    void SetOuterSize(Twips width, Twips height);
+    Twips OuterWidth() const;
+    Twips OuterHeight() const;
+    bool HasOwnSize() const;
+    /// Size of the content in pixels, also before the window is shown.
+    QSize ClientSize() const;
+
+    /// Upper left corner within the area.
+    Twips Left() const;
+    Twips Top() const;
+    void SetPlace(Twips left, Twips top);
+
+    void Show();
+    void Hide();
+
+  private:
+    QPointer<ChildWindow> window_;
+    QPointer<ActiveChild> active_;
+};
+
+}  // namespace tessarin

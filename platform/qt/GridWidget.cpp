@@ -1,0 +1,88 @@
+#include "platform/qt/GridWidget.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/Conversions.h"
+
+namespace tessarin {
+namespace {
+
+void SetRange(QScrollBar& bar, int whole, int shown) {
+    bar.setPageStep(shown);
+    bar.setSingleStep(kGridRowPixels);
+    bar.setRange(0, std::max(0, whole - shown));
+}
+
+}  // namespace
+
+GridWidget::GridWidget(GridFormEvents& events) : events_(&events) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::ClickFocus);
+    setCursor(Qt::ArrowCursor);  // else that of a window edge would stay
+    viewport()->setMouseTracking(true);
+    for (QWidget* part : {viewport(), static_cast<QWidget*>(horizontalScrollBar()),
+                          static_cast<QWidget*>(verticalScrollBar())}) {
+        part->setContextMenuPolicy(Qt::PreventContextMenu);
+    }
+}
+
+void GridWidget::SetCells(GridCells cells) {
+    cells_ = std::move(cells);
+    FitScrollBars();
+    viewport()->update();
+}
+
+QPoint GridWidget::Corner() const {
+    return {-horizontalScrollBar()->value(), -verticalScrollBar()->value()};
+}
+
+void GridWidget::FitScrollBars() {
+    SetRange(*horizontalScrollBar(), cells_.Size().width(), viewport()->width());
+    SetRange(*verticalScrollBar(), cells_.Size().height(), viewport()->height());
+}
+
+void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
+    FitScrollBars();
+}
+
+bool GridWidget::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QAbstractScrollArea::viewportEvent(event);
+    }
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    QToolTip::showText(help.globalPos(), AsToolTip(cells_.CutTextAt(help.pos() - Corner())),
+                       viewport());
+    return true;
+}
+
+void GridWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), palette().window());
+    painter.translate(Corner());
+    cells_.Paint(painter, event->rect().translated(-Corner()));
+}
+
+void GridWidget::mousePressEvent(QMouseEvent* event) {
+    if (events_ != nullptr && event->button() == Qt::RightButton) {
+        events_->Grid_RightPress();
+    }
+}
+
+void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void GridWidget::mouseMoveEvent(QMouseEvent* /*event*/) {
+    if (events_ != nullptr) {
+        events_->Grid_MouseMove();
+    }
+}
+
+}  // namespace tessarin

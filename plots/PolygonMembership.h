@@ -1,0 +1,13 @@
+// Evaluates polygon populations: which events of all files lie inside their corners.
+#pragma once
+
+#include <cstdint>
+
+namespace tessarin {
+
+/// Rewrites the `Membership` column of a polygon population for all files, then re-evaluates the
+/// definitions that use it. No event is left out, whatever a window draws. A file that lacks one
+/// of the polygon's channels has no members. REQUIRES: slot is 1..MaxPopulations.
+void TarkistaMonikulmio(int16_t slot);
+
+}  // namespace tessarin

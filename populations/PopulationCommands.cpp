@@ -1,0 +1,141 @@
+#include "populations/PopulationCommands.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/Muuttujat.h"
+#include "core/RegionMuuttujat.h"
+#include "populations/Definitions.h"
+
+namespace tessarin {
+
+void PopulationCommands::Paina(PanelButton button) {
+    switch (button) {
+        case PanelButton::kLuoUusiRegion:
+            return LuoUusiRegion();
+        case PanelButton::kPoistaRegion:
+            return PoistaRegion();
+        case PanelButton::kMuutaRegioninNimi:
+            return MuutaRegioninNimi();
+        case PanelButton::kLuoUusiMaaritelma:
+            return LuoUusiMaaritelma();
+        case PanelButton::kPoistaMaaritelma:
+            return PoistaMaaritelma();
+    }
+}
+
+void PopulationCommands::ShowChange() {
+    panel_.PaivitaRegionLista();
+    view_.PiirraKaikki();
+}
+
+void PopulationCommands::LuoUusiRegion() {
+    if (UusiRegionPaalla) {
+        UusiRegionPaalla = false;  // a second press cancels
+        if (RegionAloitettu) {
+            PalautaPiirtoele();
+            view_.PiirraKaikki();
+        }
+        return;
+    }
+    UusiRegionPaalla =
+        !Populaatiot(panel_.ValittuPopulaatio()).Defined ||
+        dialogs_.Ask("Population has been already defined. Do you want to re-define it?",
+                     "Population already defined", QuestionButtons::kOkCancel);
+}
+
+void PopulationCommands::MuutaRegioninNimi() {
+    Populaatio& population = Populaatiot(panel_.ValittuPopulaatio());
+    if (!population.Defined) {
+        return;
+    }
+    const std::string name =
+        dialogs_.Input("Give a new name for population", "Rename population", population.Name);
+    if (name.empty()) {
+        return;
+    }
+    NimeaMaaritelmissa(population.Name, name);
+    population.Name = name;
+    ShowChange();
+}
+
+void PopulationCommands::PoistaRegion() {
+    const int16_t slot = panel_.ValittuPopulaatio();
+    if (!Populaatiot(slot).Defined ||
+        !dialogs_.Ask("Do you really want to delete the selected population?",
+                      "Delete population", QuestionButtons::kOkCancel)) {
+        return;
+    }
+    Populaatiot(slot).Defined = false;
+    Populaatiot(slot).Name.clear();
+    TarkistaMaaritelmat();
+    panel_.PaivitaRegionLista();
+    for (Tiedosto& file : Tiedostot) {
+        if (file.Valid) {
+            const auto members = file.Membership.Sarake(slot);
+            std::fill(members.begin(), members.end(), uint8_t{0});
+        }
+    }
+    view_.PiirraKaikki();
+}
+
+void PopulationCommands::LuoUusiMaaritelma() {
+    const int16_t slot = panel_.ValittuMaaritelma();
+    Populaatio& definition = Populaatiot(slot);
+    if (definition.Defined &&
+        !dialogs_.Ask("The definition has been already defined. To you want to re-define it?",
+                      "Definition already defined", QuestionButtons::kOkCancel)) {
+        return;
+    }
+    const std::string expression = dialogs_.Input(
+        "Create a new definition (case insensitive)\n"
+        "Examples:\n"
+        "  Poly-1 and Poly-2\n"
+        "  Poly-1 and (Histo-2 or Poly-3)\n"
+        "  Poly-1 and Histo-2 and not Poly-3",
+        "Create definition", definition.Defined ? definition.Name : "");
+    if (expression.empty()) {
+        return;
+    }
+    const std::string failure = TarkistaMaaritelma(slot, expression);
+    if (!failure.empty()) {
+        dialogs_.Message(failure, "Create definition");
+        return;
+    }
+    definition.Name = expression;
+    definition.Defined = true;
+    ShowChange();
+}
+
+void PopulationCommands::PoistaMaaritelma() {
+    Populaatio& definition = Populaatiot(panel_.ValittuMaaritelma());
+    if (definition.Defined &&
+        dialogs_.Ask("Do you really want to delete the definition?", "Delete definition",
+                     QuestionButtons::kOkCancel)) {
+        definition.Defined = false;
+        definition.Name.clear();
+        ShowChange();
+    }
+}
+
+void PopulationCommands::VaihdaVari(int slot, bool twice) {
+    Populaatio& row = Populaatiot(slot);
+    const bool isPopulation = slot <= MaxPopulations;
+    if (isPopulation != twice) {
+        return;
+    }
+    if (const auto color = dialogs_.ChooseColor(row.Color())) {
+        row.Red = color->red;
+        row.Green = color->green;
+        row.Blue = color->blue;
+        ShowChange();
+    }
+}
+
+void PopulationCommands::VaihdaLapinakyvyys(int slot) {
+    Populaatio& row = Populaatiot(slot);
+    row.Transparent = !row.Transparent;
+    ShowChange();
+}
+
+}  // namespace tessarin

@@ -1,0 +1,173 @@
+// The statistics of a dot plot and the window that shows them.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "mainwindow/WindowList.h"
+#include "plots/EventText.h"
+#include "plots/Statistics.h"
+#include "tests/support/PlotFixture.h"
+
+namespace tessarin {
+namespace {
+
+class StatisticsTest : public PlotTest {
+  protected:
+    ScriptedGridForm& OpenStatistics() {
+        IkkunaPaikassa(1)->AvaaTaiSuljeStatistics("open");
+        return *platform.mainForm.grids.back();
+    }
+    void ChooseStatItem(ScriptedGridForm& grid, int item) {
+        platform.popups.choices.push_back({item, -1});
+        grid.events.Grid_RightPress();
+    }
+    using Row = std::vector<std::string>;
+};
+
+TEST_F(StatisticsTest, CountsSharesAndMeans) {
+    Open({{"a", false, 1000, {0, 100, 200.5F}}, {"b", false, 1000, {-10, 10, 30}}});
+    DefinePolygon(2, "Two", {1, 1, 1}, {1, 2});
+    DefinePolygon(3, "Elsewhere", {1, 1, 1}, {1});
+    Populaatiot(3).AxisY = 1;
+    DefinePolygon(4, "Nobody", {1, 1, 1}, {});
+    DefinePolygon(17, "Two and not Nobody", {1, 1, 1}, {2});
+    const ScriptedGridForm& grid = OpenStatistics();
+    EXPECT_EQ(grid.caption, "(1) Statistics: tube.fcs");
+    EXPECT_EQ(grid.table.rows[0].cells, (Row{"", "Number", "% of vis", "X mean", "Y mean",
+                                             "X geomean", "Y geomean"}));
+    // Means 100.1666 and 10; geometric: 0 and -10 count as 1, so the cube roots of
+    // 1 * 100 * 200.5 = 20050, 27.1668, and of 1 * 10 * 30 = 300, 6.6943. All cut, not rounded.
+    EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "3", "100", "100.16", "10", "27.16", "6.69"}));
+    // Two events of three; x 0 and 100, geometric 10; y -10 and 10, geometric the root of 10.
+    EXPECT_EQ(grid.Row("Two"), (Row{"Two", "2", "66.66", "50", "0", "10", "3.16"}));
+    EXPECT_EQ(grid.Row("Nobody"), (Row{"Nobody", "0", "0", "0", "0", "0", "0"}));
+    EXPECT_EQ(grid.Row("Two and not Nobody")[1], "1");
+    EXPECT_EQ(grid.table.Rows(), 5) << "no row for a region of other channels";
+    EXPECT_EQ(grid.width.count, 6 * 960 + 1500 + 100);
+    EXPECT_EQ(grid.height.count, 5 * 240 + 380);
+
+    IkkunaPaikassa(1)->NaytaPopulaatio(4);
+    EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "0", "100", "0", "0", "0", "0"}));
+    EXPECT_EQ(grid.Row("Two")[2], "0");
+    IkkunaPaikassa(1)->NaytaPopulaatio(2);
+    EXPECT_EQ(grid.Row("Two and not Nobody")[2], "50");
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("17", "vis"), 50);
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "xmean"), 50);
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("zz", "number"), std::nullopt);
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "median"), std::nullopt);
+}
+
+TEST_F(StatisticsTest, QuadrantsDivideOnTheGrid) {
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {100, 900, 900, 500}}, {"b", false, 1000, {900, 900, 100, 500}}});
+    const ScriptedGridForm& grid = OpenStatistics();
+    ChoosePopup(form, 2);
+    EXPECT_EQ(grid.Row("Upper Left")[1], "1");
+    EXPECT_EQ(grid.Row("Upper Right")[1], "1");
+    EXPECT_EQ(grid.Row("Lower Left"), (Row{"Lower Left", "0", "0", "0", "0", "0", "0"}));
+    EXPECT_EQ(grid.Row("Lower Right"), (Row{"Lower Right", "2", "50", "700", "300", "670.82",
+                                            "223.6"}))
+        << "an event on the lines goes right and down";
+    EXPECT_EQ(grid.table.rows[2].cells[0], "") << "an empty row before them";
+    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("lr", "vis"), 50);
+    IkkunaPaikassa(1)->AsetaRegion("x", 0);
+    IkkunaPaikassa(1)->AsetaRegion("y", 0);
+    EXPECT_EQ(grid.Row("Lower Right")[2], "100");
+}
+
+TEST_F(StatisticsTest, ThinnedInFastDrawModeAndSaysSo) {
+    FastDrawLimit = 50;
+    Open({{"a", false, 1000, std::vector<float>(120, 1)},
+          {"b", false, 1000, std::vector<float>(120, 1)}});
+    const ScriptedGridForm& grid = OpenStatistics();
+    EXPECT_EQ(grid.table.rows[0].cells[0], "FAST DRAW");
+    EXPECT_EQ(grid.Row("Visible")[1], "40");
+}
+
+TEST_F(StatisticsTest, ItemsHeadersAndText) {
+    Open({{"a", false, 1000, {5}}, {"b", false, 1000, {5}}});
+    Tiedostot(1).Otsikko.SampleId = "S1";
+    Tiedostot(1).Otsikko.Comment = "first\rsecond";
+    ScriptedGridForm& grid = OpenStatistics();
+    for (const int item : {2, 3, 4, 5, 6}) {
+        ChooseStatItem(grid, item);
+    }
+    EXPECT_EQ(grid.table.Cols(), 2);
+    ChooseStatItem(grid, 1);
+    EXPECT_EQ(grid.table.Cols(), 2) << "the last visible item stays";
+    ChooseStatItem(grid, 3);
+    ChooseStatItem(grid, 8);
+    ChooseStatItem(grid, 10);
+    EXPECT_TRUE(grid.table.rows[0].merged);
+    EXPECT_EQ(grid.table.rows[0].cells, (Row{"File name", "tube.fcs ", "tube.fcs "}));
+    EXPECT_EQ(grid.table.rows[1].cells[1], "first, second ");
+    ChooseStatItem(grid, 0);
+    EXPECT_EQ(platform.popups.lastEntries[0].caption, "Copy to clipboard");
+    EXPECT_TRUE(platform.popups.lastEntries[8].checked);
+    EXPECT_FALSE(platform.popups.lastEntries[9].checked);
+    const std::string text =
+        "File name\ttube.fcs \t\nComments\tfirst, second \t\n\tNumber\tX mean\nVisible\t1\t5";
+    EXPECT_EQ(platform.clipboard.text, text);
+    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("open");
+    const AnalysisWindow& window = *IkkunaPaikassa(1);
+    EXPECT_TRUE(window.AnnaKokoStatistiikka("1-rivinen-otsikko")
+                    ->starts_with("[W 1] Visible Number\t[W 1] Visible X mean\t[W 1] Upper Left "));
+    EXPECT_EQ(window.AnnaKokoStatistiikka("1-rivinen-tieto"), "1\t5\t0\t0\t0\t0\t1\t5\t0\t0\t")
+        << "the one event lies lower left";
+    EXPECT_EQ(window.AnnaKokoStatistiikka("other"), "");
+    EXPECT_TRUE(window.AnnaKokoStatistiikka("monirivinen")->ends_with("Lower Left\t1\t5\nLower Right\t0\t0"));
+}
+
+TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
+    ScriptedForm& form = Open({{"a", false, 1000, {5}}, {"b", false, 1000, {5}}});
+    ChoosePopup(form, 1);
+    ASSERT_EQ(platform.mainForm.grids.size(), 1U);
+    EXPECT_TRUE(IkkunatStat(1).Used);
+    Choose("CopyImages");  // the statistics window is the active child now
+    EXPECT_TRUE(platform.clipboard.text.starts_with("\tNumber"));
+    EXPECT_EQ(ClipSource, 1);
+    form.Activate();
+    Choose("CopyImages");
+    EXPECT_EQ(platform.clipboard.text, "");
+    EXPECT_GT(platform.clipboard.image.width, 0);
+    platform.mainForm.grids[0]->events.Form_QueryUnload();
+    EXPECT_FALSE(IkkunatStat(1).Used);
+    EXPECT_EQ(IkkunaPaikassa(1)->OnkoStatistiikkaKaytossa(), false);
+    Choose("CopyImages");
+    ChoosePopup(form, 1);
+    EXPECT_EQ(platform.popups.lastEntries[1].caption, "Open statistics");
+    ChoosePopup(form, 1);
+    EXPECT_EQ(platform.popups.lastEntries[1].caption, "Close statistics");
+    ChoosePopup(form, 1);
+    form.Close();
+    EXPECT_TRUE(platform.mainForm.grids.empty()) << "it goes with its plot";
+    EXPECT_FALSE(IkkunatStat(1).Used);
+}
+
+TEST_F(StatisticsTest, SavesEventsAsText) {
+    FastDrawLimit = 1;
+    ScriptedForm& form = Open({{"a", false, 1000, {0.1F, 2, 1e10F}}, {"b", false, 1000, {-3, 0, 1}}});
+    DefinePolygon(1, "g", {1, 1, 1}, {1, 3});
+    IkkunaPaikassa(1)->NaytaPopulaatio(1);
+    const std::string path =
+        (std::filesystem::temp_directory_path() / "tessarin-events.txt").string();
+    std::filesystem::remove(path);
+    platform.dialogs.texts = {path, path};
+    ChoosePopup(form, 16);
+    std::ostringstream text;
+    text << std::ifstream(path).rdbuf();
+    EXPECT_EQ(text.str(), "0.1\t-3\n1E+10\t1\n") << "fast draw does not thin it";
+    platform.dialogs.answers = {false};
+    ChoosePopup(form, 16);
+    EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
+    std::filesystem::remove(path);
+    platform.dialogs.texts = {"/nowhere/at/all.txt"};
+    ChoosePopup(form, 16);
+    EXPECT_EQ(platform.dialogs.messages.size(), 1U);
+}
+
+}  // namespace
+}  // namespace tessarin

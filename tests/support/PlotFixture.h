@@ -1,0 +1,44 @@
+// A dot plot of known size on a file made in memory.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tests/support/ProgramFixture.h"
+
+namespace tessarin {
+
+class PlotTest : public ProgramTest {
+  protected:
+    // A window whose surface is 236 by 236 pixels: the plot area is 200 by 200, so that with a
+    // range of 1000 a value of 5 is one pixel.
+    ScriptedForm& Open(const std::vector<TestChannel>& channels) {
+        OletusKoko = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
+                      TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
+        PutFile(1, "tube.fcs", channels);
+        CurrentFile = 1;
+        return NewDotPlot();
+    }
+
+    static uint32_t DotAt(const ScriptedForm& form, int x, int y) {
+        return form.surface.PixelAt(18 + x, 236 - 18 - y);
+    }
+
+    static void DefinePolygon(int16_t slot, const std::string& name, Rgb color,
+                              const std::vector<int32_t>& members) {
+        Populaatio& row = Populaatiot(slot);
+        row.Defined = true;
+        row.Name = name;
+        row.Type = "Polygon";
+        row.AxisX = 1;
+        row.AxisY = 2;
+        row.Red = color.red;
+        row.Green = color.green;
+        row.Blue = color.blue;
+        for (const int32_t event : members) {
+            Tiedostot(1).Membership(event, slot) = 1;
+        }
+    }
+};
+
+}  // namespace tessarin

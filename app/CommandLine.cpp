@@ -55,18 +55,15 @@ constexpr std::array kOptions = {
            }},
     Option{"--neg-bumper", "", "use the neg value bumper",
            [](CommandLine& line, const std::string&) { return line.negBumper = true; }},
-    Option{"--snapshot", "FILE.png", "save a picture of the main window",
-           [](CommandLine& line, const std::string& value) {
-               return TakePath(line.snapshot, value);
-           }},
+    Option{
+        "--snapshot", "FILE.png", "save a picture of the main window",
+        [](CommandLine& line, const std::string& value) { return TakePath(line.snapshot, value); }},
     Option{"--clipboard", "FILE", "save the text on the clipboard",
            [](CommandLine& line, const std::string& value) {
                return TakePath(line.clipboard, value);
            }},
     Option{"--menu", "WINDOW:ITEM", "choose that item of that window's pop-up menu",
-           [](CommandLine& line, const std::string& value) {
-               return TakeMenu(line.menu, value);
-           }},
+           [](CommandLine& line, const std::string& value) { return TakeMenu(line.menu, value); }},
     Option{"--help", "", "show this text",
            [](CommandLine& line, const std::string&) { return line.help = true; }},
     Option{"--version", "", "show the version",

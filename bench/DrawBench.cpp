@@ -47,7 +47,8 @@ void Density(benchmark::State& state) {
 }
 BENCHMARK(Density)->Name("Density/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
-// Projects with the same rule, its constants worked out once, and sets a pixel or counts a cell at each event.
+// Projects with the same rule, its constants worked out once, and sets a pixel or counts a cell at
+// each event.
 template <class Store>
 void PlainLoop(benchmark::State& state, std::size_t step, Store store) {
     const Tiedosto& file = BenchFile();

@@ -9,7 +9,7 @@ namespace tessarin {
 
 /// Pixels row by row from the top, each 0xffRRGGBB.
 struct Bitmap {
-    int width = 0;   ///< in picture pixels
+    int width = 0;  ///< in picture pixels
     int height = 0;
     double ratio = 1;  ///< picture pixels for each pixel of the window it came from
     std::vector<uint32_t> pixels;

@@ -242,9 +242,9 @@ class FcsReading {
             if (!kanava.IsLog || (!HasOldScale(file_) && kanava.Range <= 1)) {
                 continue;  // a range of 1 or less has no decades
             }
-            const double divider =
-                HasOldScale(file_) ? kOldScaleDivider
-                                   : Rounded(kanava.Range / std::log10(kanava.Range));
+            const double divider = HasOldScale(file_)
+                                       ? kOldScaleDivider
+                                       : Rounded(kanava.Range / std::log10(kanava.Range));
             Convert(file_.Data.Sarake(channel), divider);
         }
     }

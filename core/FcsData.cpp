@@ -18,9 +18,8 @@ uint32_t Byte(Bytes at, int i) {
 
 template <bool LittleEndian>
 uint32_t Word32(Bytes at) {
-    return LittleEndian
-               ? Byte(at, 0) | Byte(at, 1) << 8U | Byte(at, 2) << 16U | Byte(at, 3) << 24U
-               : Byte(at, 3) | Byte(at, 2) << 8U | Byte(at, 1) << 16U | Byte(at, 0) << 24U;
+    return LittleEndian ? Byte(at, 0) | Byte(at, 1) << 8U | Byte(at, 2) << 16U | Byte(at, 3) << 24U
+                        : Byte(at, 3) | Byte(at, 2) << 8U | Byte(at, 1) << 16U | Byte(at, 0) << 24U;
 }
 
 constexpr uint32_t kIntegerBits = 0x00ffffffU;

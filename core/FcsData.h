@@ -22,7 +22,7 @@ ValueFormat FormatOf(const FcsOtsikko& header);
 
 /// What reading found.
 struct DataReport {
-    int32_t wholeEvents = 0;  // events of which every byte was there
+    int32_t wholeEvents = 0;   // events of which every byte was there
     bool cutIntegers = false;  // some 32-bit integer had bits above the 24 that are read
 };
 

@@ -52,8 +52,7 @@ double Decades(std::string_view value) {
 }
 
 void NoteByteOrder(const FcsOtsikko& header, FcsOddities& oddities) {
-    if (header.DataType == "F" && header.ByteOrder != "1,2,3,4" &&
-        header.ByteOrder != "4,3,2,1") {
+    if (header.DataType == "F" && header.ByteOrder != "1,2,3,4" && header.ByteOrder != "4,3,2,1") {
         oddities.Add("the byte order " + Quoted(header.ByteOrder) + " was read as 4,3,2,1");
     }
 }

@@ -38,10 +38,10 @@ inline constexpr int32_t kDefaultMaxLoadedEvents = 1000000;
 inline constexpr int32_t kDefaultFastDrawLimit = 50000;
 
 // The tables.
-extern Taulu<Tiedosto> Tiedostot;       // loaded files, MaxFiles slots
-extern Taulu<Ikkuna> Ikkunat;           // analysis windows, MaxWindows slots
-extern Taulu<Ikkuna> IkkunatStat;       // slot n: the statistics window of window n
-extern Taulu<Populaatio> Populaatiot;   // populations, then definitions, kPopulationSlots slots
+extern Taulu<Tiedosto> Tiedostot;      // loaded files, MaxFiles slots
+extern Taulu<Ikkuna> Ikkunat;          // analysis windows, MaxWindows slots
+extern Taulu<Ikkuna> IkkunatStat;      // slot n: the statistics window of window n
+extern Taulu<Populaatio> Populaatiot;  // populations, then definitions, kPopulationSlots slots
 
 // Options of the Edit menu. They start from their defaults at each start.
 extern int32_t MaxLoadedEvents;  // most events that a file brings into memory, above 0

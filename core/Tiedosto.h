@@ -11,16 +11,16 @@ namespace tessarin {
 
 /// `Kanava` means channel: one measured parameter of a file.
 struct Kanava {
-    std::string Name;     ///< value of $PnN, or the column title of a text file
-    bool IsLog = false;   ///< shown on a logarithmic scale
-    int32_t Range = 0;    ///< upper end of the channel's scale
+    std::string Name;    ///< value of $PnN, or the column title of a text file
+    bool IsLog = false;  ///< shown on a logarithmic scale
+    int32_t Range = 0;   ///< upper end of the channel's scale
 };
 
 /// `FcsOtsikko` means FCS header: the header's offsets and the keywords that are kept.
 struct FcsOtsikko {
-    std::string Version;       ///< "FCS3.0" or "FCS2.0"
-    int32_t TextBegin = 0;     ///< byte offsets from the start of the file, as the header gives
-    int32_t TextEnd = 0;       ///< them; both ends included
+    std::string Version;    ///< "FCS3.0" or "FCS2.0"
+    int32_t TextBegin = 0;  ///< byte offsets from the start of the file, as the header gives
+    int32_t TextEnd = 0;    ///< them; both ends included
     int32_t DataBegin = 0;
     int32_t DataEnd = 0;
     std::string Text;          ///< the TEXT segment, its delimiter replaced by character 12

@@ -75,8 +75,7 @@ class AnalysisWindow : public WindowObject, public FormEvents, public CopySource
     /// Moves the cross along "x" or "y" to a grid value, y from the top.
     virtual bool AsetaRegion(std::string_view /*axis*/, double /*value*/) { return false; }
     /// Place of the cross along "x" or "y" with one leading blank, y from the bottom.
-    virtual std::optional<std::string> AnnaKvadrantinKoordinaatit(
-        std::string_view /*axis*/) const {
+    virtual std::optional<std::string> AnnaKvadrantinKoordinaatit(std::string_view /*axis*/) const {
         return std::nullopt;
     }
 };

@@ -29,9 +29,8 @@ bool FileExit(PaaIkkuna& main) {
     if (Closing) {
         return true;
     }
-    if (!main.Services().dialogs.Ask(
-            "Do you really want to exit? All unsaved data will be lost.", "Exit the program",
-            QuestionButtons::kOkCancel)) {
+    if (!main.Services().dialogs.Ask("Do you really want to exit? All unsaved data will be lost.",
+                                     "Exit the program", QuestionButtons::kOkCancel)) {
         return false;
     }
     Closing = true;

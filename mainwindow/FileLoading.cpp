@@ -38,8 +38,7 @@ int16_t FreeSlot() {
 bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot) {
     Tiedosto file = LueFCS(path);
     if (!file.Valid) {
-        main.Services().dialogs.Message("The file was not valid flow cytometry file",
-                                        "Load error");
+        main.Services().dialogs.Message("The file was not valid flow cytometry file", "Load error");
         return false;
     }
     Tiedostot(slot) = std::move(file);
@@ -55,8 +54,7 @@ int16_t FindOrRead(PaaIkkuna& main, const std::string& path) {
     const int16_t slot = FreeSlot();
     if (slot == 0) {
         main.Services().dialogs.Message("Loading failed: There can be only " +
-                                            std::to_string(MaxFiles) +
-                                            " files open at a time.",
+                                            std::to_string(MaxFiles) + " files open at a time.",
                                         "Too many files open");
         return 0;
     }

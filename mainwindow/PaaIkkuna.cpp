@@ -31,7 +31,9 @@ const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
 }
 
 PaaIkkuna::PaaIkkuna(const Platform& platform)
-    : platform_(platform), panel_(platform.mainForm), populations_(platform.mainForm),
+    : platform_(platform),
+      panel_(platform.mainForm),
+      populations_(platform.mainForm),
       commands_(platform.dialogs, populations_, *this) {
     NaytaTiimalasi = [this](bool busy) {
         platform_.pointer.SetPointer(busy ? MousePointer::kHourglass : MousePointer::kNormal);

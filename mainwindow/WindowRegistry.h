@@ -13,8 +13,8 @@ namespace tessarin {
 class PaaIkkuna;
 
 struct WindowKind {
-    std::string type;     ///< as tables and sheets name it, such as "DotPlot"
-    std::string command;  ///< the menu command that makes one; empty when none does
+    std::string type;       ///< as tables and sheets name it, such as "DotPlot"
+    std::string command;    ///< the menu command that makes one; empty when none does
     bool autosaves = true;  ///< whether making one by its command ends with an autosave
     /// Makes the window and its form, not shown yet.
     std::function<std::shared_ptr<AnalysisWindow>(PaaIkkuna&)> make;

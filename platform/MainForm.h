@@ -25,11 +25,11 @@ struct PanelRow {
 
 /// The five buttons of the side panel, by the names of their commands.
 enum class PanelButton {
-    kLuoUusiRegion,       ///< "Create"
-    kPoistaRegion,        ///< "Delete", populations
-    kMuutaRegioninNimi,   ///< "Rename"
-    kLuoUusiMaaritelma,   ///< "Define"
-    kPoistaMaaritelma,    ///< "Delete", definitions
+    kLuoUusiRegion,      ///< "Create"
+    kPoistaRegion,       ///< "Delete", populations
+    kMuutaRegioninNimi,  ///< "Rename"
+    kLuoUusiMaaritelma,  ///< "Define"
+    kPoistaMaaritelma,   ///< "Delete", definitions
 };
 
 /// What the main window tells the program.

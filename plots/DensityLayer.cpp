@@ -13,8 +13,8 @@ namespace {
 constexpr int kLightest = 18;  // events from which a cell is white
 
 int Cell(double place, int resolution) {
-    return ToInt32(std::clamp(Int(place), -1.0 * TiheysKuva::kSlack,
-                              1.0 * resolution + TiheysKuva::kSlack));
+    return ToInt32(
+        std::clamp(Int(place), -1.0 * TiheysKuva::kSlack, 1.0 * resolution + TiheysKuva::kSlack));
 }
 
 // How large a cell is painted, in pixels; both corners of its rectangle are included.

@@ -57,8 +57,7 @@ void Colour(DotBlock& block, const std::vector<Colouring>& colourings,
 
 }  // namespace
 
-void PiirraPisteet(Kuva& surface, const PlotArea& area, const PlotData& data,
-                   const DotLook& look) {
+void PiirraPisteet(Kuva& surface, const PlotArea& area, const PlotData& data, const DotLook& look) {
     const auto colourings = look.MoniVari ? Colourings(data.file) : std::vector<Colouring>{};
     DotBlock block;
     KaytetytTapahtumat used(data.file, data.gate, data.PiirtoVali);

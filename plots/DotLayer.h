@@ -14,8 +14,8 @@ struct PlotData {
     const Tiedosto& file;
     int16_t KanavaX = 1;  ///< both 1..file.ChannelCount
     int16_t KanavaY = 2;
-    int16_t gate = 0;         ///< population slot, 0 for all events
-    int32_t PiirtoVali = 1;   ///< every so many events only
+    int16_t gate = 0;        ///< population slot, 0 for all events
+    int32_t PiirtoVali = 1;  ///< every so many events only
 };
 
 struct DotLook {

@@ -141,8 +141,8 @@ void DotPlot::DropUndefinedGate() {
 }
 
 void DotPlot::DrawEvents(const Tiedosto& file, const PlotArea& area) {
-    const int32_t step = IsBeingResized() ? KoonMuutosVali(file.EventCount, nopea_.PiirtoVali)
-                                          : nopea_.PiirtoVali;
+    const int32_t step =
+        IsBeingResized() ? KoonMuutosVali(file.EventCount, nopea_.PiirtoVali) : nopea_.PiirtoVali;
     const PlotData data = UsedData(file, step);
     if (Tiheys) {
         density_.Piirra(Surface(), area, data, TiheysResoluutio);
@@ -224,8 +224,7 @@ bool DotPlot::AsetaStatPreviewissa(bool shown) {
 
 bool DotPlot::AsetaRegion(std::string_view axis, double value) {
     if (axis == "x" || axis == "y") {
-        (axis == "x" ? kvadrantti_.KvadranttiX : kvadrantti_.KvadranttiY) =
-            ToInt32(Rounded(value));
+        (axis == "x" ? kvadrantti_.KvadranttiX : kvadrantti_.KvadranttiY) = ToInt32(Rounded(value));
         Piirra();
     }
     return true;
@@ -236,8 +235,7 @@ std::optional<std::string> DotPlot::AnnaKvadrantinKoordinaatit(std::string_view 
         return "";
     }
     const auto grid = static_cast<int64_t>(kGrid);
-    const int64_t value =
-        axis == "x" ? kvadrantti_.KvadranttiX : grid - kvadrantti_.KvadranttiY;
+    const int64_t value = axis == "x" ? kvadrantti_.KvadranttiX : grid - kvadrantti_.KvadranttiY;
     return (value < 0 ? "" : " ") + std::to_string(value);
 }
 

@@ -78,8 +78,8 @@ void DotPlot::MenuValintaReaktio(int item) {
 }
 
 bool DotPlot::IsItemEnabled(int item) const {
-    const bool needsFile = item == kCopy || item == kSaveImage || item == kFastDraw ||
-                           item == kSaveData;
+    const bool needsFile =
+        item == kCopy || item == kSaveImage || item == kFastDraw || item == kSaveData;
     const bool needsPage = item == kPreview;
     return Items()[static_cast<std::size_t>(item) - 1].action != nullptr &&
            (!needsFile || File() != nullptr) &&
@@ -87,9 +87,8 @@ bool DotPlot::IsItemEnabled(int item) const {
 }
 
 void DotPlot::ShowMenu() {
-    const auto items = tekstit_.Items([this](int item) {
-        return tekstit_(item) == "-" || IsItemEnabled(item);
-    });
+    const auto items =
+        tekstit_.Items([this](int item) { return tekstit_(item) == "-" || IsItemEnabled(item); });
     NaytaNappiMenu(main_, ID, items);
 }
 

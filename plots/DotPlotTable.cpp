@@ -25,9 +25,8 @@ std::string Cut(double value) {
 
 constexpr std::array kColumns = {
     Column{1, "Number", [](const TilastoRivi& row) { return std::to_string(row.Lukumaara); }},
-    Column{2, "% of vis", [](const TilastoRivi& row) {
-               return NumberText(Pyorista(row.Osuus, true));
-           }},
+    Column{2, "% of vis",
+           [](const TilastoRivi& row) { return NumberText(Pyorista(row.Osuus, true)); }},
     Column{3, "X mean", [](const TilastoRivi& row) { return Cut(row.XKeski); }},
     Column{4, "Y mean", [](const TilastoRivi& row) { return Cut(row.YKeski); }},
     Column{5, "X geomean", [](const TilastoRivi& row) { return Cut(row.XGeo); }},
@@ -43,9 +42,8 @@ struct Header {
 constexpr std::array kHeaders = {
     Header{8, "File name", [](const Tiedosto& file) { return file.FileName; }},
     Header{9, "Sample ID", [](const Tiedosto& file) { return file.Otsikko.SampleId; }},
-    Header{10, "Comments", [](const Tiedosto& file) {
-               return KorvaaTeksti(file.Otsikko.Comment, "\r", ", ");
-           }},
+    Header{10, "Comments",
+           [](const Tiedosto& file) { return KorvaaTeksti(file.Otsikko.Comment, "\r", ", "); }},
 };
 
 class Layout {
@@ -98,8 +96,8 @@ class Layout {
 
 }  // namespace
 
-GridTable DotPlotTaulukko(const Statistics& window, const Tiedosto& file,
-                          const Tilastot& tilastot, const DotPlotTableLook& look) {
+GridTable DotPlotTaulukko(const Statistics& window, const Tiedosto& file, const Tilastot& tilastot,
+                          const DotPlotTableLook& look) {
     Layout layout(window);
     for (const Header& header : kHeaders) {
         if (window.OnkoNakyvissa(header.item)) {

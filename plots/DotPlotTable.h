@@ -18,7 +18,7 @@ struct DotPlotTableLook {
 
 /// The visible columns and header rows of the statistics window, a row for the shown events, one
 /// for each population that has one, and the quadrants.
-GridTable DotPlotTaulukko(const Statistics& window, const Tiedosto& file,
-                          const Tilastot& tilastot, const DotPlotTableLook& look);
+GridTable DotPlotTaulukko(const Statistics& window, const Tiedosto& file, const Tilastot& tilastot,
+                          const DotPlotTableLook& look);
 
 }  // namespace tessarin

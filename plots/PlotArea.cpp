@@ -17,8 +17,8 @@ GridPoint PlotArea::ToGrid(PixelPoint place) const {
 }
 
 void PiirraKahva(Kuva& surface, PixelPoint at, Rgb color) {
-    surface.Line(at.x - KahvanKoko, at.y - KahvanKoko, at.x + KahvanKoko, at.y + KahvanKoko,
-                 color, LineForm::kFilledBox);
+    surface.Line(at.x - KahvanKoko, at.y - KahvanKoko, at.x + KahvanKoko, at.y + KahvanKoko, color,
+                 LineForm::kFilledBox);
 }
 
 bool OsuuKahvaan(PixelPoint handle, PixelPoint mouse) {

@@ -49,8 +49,7 @@ bool IsNearName(const PlotArea& area, const Populaatio& polygon, PixelPoint mous
     const PixelPoint corner = NimenPaikka(area, polygon);
     const double width = 2 * NimenPuolileveys(polygon);
     return mouse.x > corner.x - KahvanKoko && mouse.x < corner.x + width + KahvanKoko &&
-           mouse.y > corner.y - KahvanKoko &&
-           mouse.y < corner.y + 2 * kHalfHeight + KahvanKoko;
+           mouse.y > corner.y - KahvanKoko && mouse.y < corner.y + 2 * kHalfHeight + KahvanKoko;
 }
 
 // The first visible polygon, in rising order, for which `wanted` holds; 0 for none.
@@ -126,8 +125,8 @@ void MonikulmioEle::StartDrag(PixelPoint mouse) {
 
 void MonikulmioEle::Piirra(MouseButton button, PixelPoint mouse) {
     const bool here = RegionIkkuna == host_.EleenNakyma().window;
-    const bool onFirst = button == MouseButton::kLeft && KulmienMaara > 1 &&
-                         OsuuKahvaan(Corner(1), mouse);
+    const bool onFirst =
+        button == MouseButton::kLeft && KulmienMaara > 1 && OsuuKahvaan(Corner(1), mouse);
     if (here && (button == MouseButton::kRight || onFirst)) {
         Close();
     } else if (button == MouseButton::kLeft) {
@@ -237,8 +236,7 @@ void MonikulmioEle::Paasta(PixelPoint mouse) {
         host_.PiirraKaikkiIkkunat();
     } else if (SiirrettavaOtsikko != 0) {
         Populaatio& polygon = Populaatiot(SiirrettavaOtsikko);
-        const GridPoint place =
-            Area().ToGrid({mouse.x + NimenPuolileveys(polygon), mouse.y + 4});
+        const GridPoint place = Area().ToGrid({mouse.x + NimenPuolileveys(polygon), mouse.y + 4});
         polygon.TitleX = ToInt32(Rounded(place.x) - polygon.TitleBaseX);
         polygon.TitleY = ToInt32(Rounded(place.y) - polygon.TitleBaseY);
         EndDrag();

@@ -9,8 +9,8 @@ namespace tessarin {
 namespace {
 
 PixelPoint Centre(const Kvadrantti& cross, const PlotArea& area) {
-    return area.ToPixel({static_cast<double>(cross.KvadranttiX),
-                         static_cast<double>(cross.KvadranttiY)});
+    return area.ToPixel(
+        {static_cast<double>(cross.KvadranttiX), static_cast<double>(cross.KvadranttiY)});
 }
 
 // The nearest place in the plot area.

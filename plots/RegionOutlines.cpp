@@ -45,8 +45,8 @@ bool OnkoNakyva(const PolygonView& view, int16_t slot) {
 std::vector<PixelPoint> PikseliKulmat(const PlotArea& area, const Populaatio& polygon) {
     std::vector<PixelPoint> corners;
     for (std::size_t i = 1; i <= static_cast<std::size_t>(CornerCount(polygon)); ++i) {
-        corners.push_back(area.ToPixel({static_cast<double>(polygon.X[i]),
-                                        static_cast<double>(polygon.Y[i])}));
+        corners.push_back(
+            area.ToPixel({static_cast<double>(polygon.X[i]), static_cast<double>(polygon.Y[i])}));
     }
     return corners;
 }

@@ -11,9 +11,8 @@
 namespace tessarin {
 
 void RekisteroiKuvaajat() {
-    RekisteroiIkkunaLaji({"DotPlot", "CreateDotPlot", true, [](PaaIkkuna& main) {
-                              return std::make_shared<DotPlot>(main);
-                          }});
+    RekisteroiIkkunaLaji({"DotPlot", "CreateDotPlot", true,
+                          [](PaaIkkuna& main) { return std::make_shared<DotPlot>(main); }});
     AsetaArvioija("Polygon", TarkistaMonikulmio);
     AsetaMaaritelmanArvioija(CheckDefinition);
 }

@@ -103,8 +103,7 @@ void Statistics::Nayta(const std::string& caption, const GridTable& table) {
     for (const Twips column : table.columnWidths) {
         width += column.count;
     }
-    form_->SetOuterSize({width},
-                        {GridForm::kRowHeight.count * table.Rows() + kFrameHeight});
+    form_->SetOuterSize({width}, {GridForm::kRowHeight.count * table.Rows() + kFrameHeight});
 }
 
 void Statistics::Form_Activate() {

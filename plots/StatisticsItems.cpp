@@ -21,7 +21,7 @@ void AppendCommon(std::vector<TilastoValinta>& items) {
 std::vector<TilastoValinta> TilastoValinnat(std::string_view type) {
     std::vector<TilastoValinta> items;
     if (type == "DotPlot") {
-        items = {Column("Number"), Column("% of Vis"),  Column("XMean"),
+        items = {Column("Number"), Column("% of Vis"), Column("XMean"),
                  Column("YMean"),  Column("XGeoMean"), Column("YGeoMean")};
     }
     if (!items.empty()) {

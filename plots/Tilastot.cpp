@@ -80,8 +80,8 @@ Tilastot::Tilastot() : Rivit(kPopulationSlots + 1) {}
 
 bool OnkoTilastoRivi(int16_t slot, int16_t kanavaX, int16_t kanavaY) {
     const Populaatio& row = Populaatiot(slot);
-    const bool applies = slot > MaxPopulations || (row.Type == "Polygon" &&
-                                                   row.AxisX == kanavaX && row.AxisY == kanavaY);
+    const bool applies = slot > MaxPopulations ||
+                         (row.Type == "Polygon" && row.AxisX == kanavaX && row.AxisY == kanavaY);
     return row.Defined && applies;
 }
 

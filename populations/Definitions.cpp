@@ -102,7 +102,7 @@ std::string RewriteNot(const std::string& text) {
     std::string rewritten;
     bool closing = false;
     for (const std::string_view piece : Split(text, ' ')) {
-        const bool opens = piece == "not" && !closing;
+        const bool opens = piece == "not";
         rewritten += opens ? "(1-" : piece;
         rewritten += closing ? ") " : " ";
         closing = opens;

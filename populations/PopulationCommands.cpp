@@ -62,8 +62,8 @@ void PopulationCommands::MuutaRegioninNimi() {
 void PopulationCommands::PoistaRegion() {
     const int16_t slot = panel_.ValittuPopulaatio();
     if (!Populaatiot(slot).Defined ||
-        !dialogs_.Ask("Do you really want to delete the selected population?",
-                      "Delete population", QuestionButtons::kOkCancel)) {
+        !dialogs_.Ask("Do you really want to delete the selected population?", "Delete population",
+                      QuestionButtons::kOkCancel)) {
         return;
     }
     Populaatiot(slot).Defined = false;
@@ -109,9 +109,8 @@ void PopulationCommands::LuoUusiMaaritelma() {
 
 void PopulationCommands::PoistaMaaritelma() {
     Populaatio& definition = Populaatiot(panel_.ValittuMaaritelma());
-    if (definition.Defined &&
-        dialogs_.Ask("Do you really want to delete the definition?", "Delete definition",
-                     QuestionButtons::kOkCancel)) {
+    if (definition.Defined && dialogs_.Ask("Do you really want to delete the definition?",
+                                           "Delete definition", QuestionButtons::kOkCancel)) {
         definition.Defined = false;
         definition.Name.clear();
         ShowChange();

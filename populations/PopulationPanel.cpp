@@ -35,8 +35,7 @@ void PopulationPanel::PaivitaRegionLista() {
         UpdateRow(slot);
         if (Populaatiot(slot).Defined) {
             naytaValikonPopulaatiot_.Mitoita(naytaValikonPopulaatiot_.size() + 1);
-            naytaValikonPopulaatiot_(naytaValikonPopulaatiot_.size()) =
-                static_cast<int16_t>(slot);
+            naytaValikonPopulaatiot_(naytaValikonPopulaatiot_.size()) = static_cast<int16_t>(slot);
         }
     }
     EnableButtons();

@@ -59,12 +59,10 @@ void Layer::CopyRect(const Layer& from, const PixelRect& rect) {
         return;
     }
     for (int y = part.top; y < part.bottom; ++y) {
-        const std::size_t start =
-            static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
-            static_cast<std::size_t>(part.left);
+        const std::size_t start = static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+                                  static_cast<std::size_t>(part.left);
         std::copy_n(from.pixels_.begin() + static_cast<std::ptrdiff_t>(start),
-                    part.right - part.left,
-                    pixels_.begin() + static_cast<std::ptrdiff_t>(start));
+                    part.right - part.left, pixels_.begin() + static_cast<std::ptrdiff_t>(start));
     }
 }
 
@@ -111,9 +109,8 @@ void Layer::Ring(double x, double y, double radius, double thickness, uint32_t p
         return;
     }
     const double inner = std::max(0.0, radius - thickness);
-    const PixelRect part =
-        Clipped({NearestPixel(x - radius) - 1, NearestPixel(y - radius) - 1,
-                 NearestPixel(x + radius) + 2, NearestPixel(y + radius) + 2});
+    const PixelRect part = Clipped({NearestPixel(x - radius) - 1, NearestPixel(y - radius) - 1,
+                                    NearestPixel(x + radius) + 2, NearestPixel(y + radius) + 2});
     for (int row = part.top; row < part.bottom; ++row) {
         for (int column = part.left; column < part.right; ++column) {
             const double distance = std::hypot(column - x, row - y);

@@ -32,8 +32,8 @@ class ScriptedGridForm : public GridForm {
     void Show() override { events.Form_Activate(); }
     /// As many pixels as the table has cells, so that a test can tell tables apart.
     Bitmap Picture() const override {
-        const auto cells = static_cast<std::size_t>(table.Cols()) *
-                           static_cast<std::size_t>(table.Rows());
+        const auto cells =
+            static_cast<std::size_t>(table.Cols()) * static_cast<std::size_t>(table.Rows());
         return {table.Cols(), table.Rows(), 1, std::vector<uint32_t>(cells, 0xffffffff)};
     }
 

@@ -45,7 +45,7 @@ class ScriptedMainForm : public MainForm {
     std::vector<int> selectedRows;
     std::map<PanelButton, bool> buttons;
     std::vector<std::string> about;
-    std::vector<ScriptedForm*> children;  ///< that exist now, in the order of their making
+    std::vector<ScriptedForm*> children;   ///< that exist now, in the order of their making
     std::vector<ScriptedGridForm*> grids;  ///< likewise
 
   private:

@@ -11,10 +11,10 @@ CommandLine Take(const std::vector<std::string>& words) {
 }
 
 TEST(CommandLineTest, TakesOptionsAndFilesInAnyOrder) {
-    const CommandLine line = Take({"a.fcs", "--headless", "--max-events", "10",
-                                   "--fast-draw-limit=7", "--neg-bumper", "--snapshot", "p.png",
-                                   "--clipboard", "c.txt", "--menu", "2:3", "--menu=1:18",
-                                   "--", "--odd-name.fcs"});
+    const CommandLine line =
+        Take({"a.fcs", "--headless", "--max-events", "10", "--fast-draw-limit=7", "--neg-bumper",
+              "--snapshot", "p.png", "--clipboard", "c.txt", "--menu", "2:3", "--menu=1:18", "--",
+              "--odd-name.fcs"});
     EXPECT_EQ(line.error, "");
     EXPECT_TRUE(line.headless && line.negBumper);
     EXPECT_EQ(line.maxEvents, 10);
@@ -28,10 +28,17 @@ TEST(CommandLineTest, TakesOptionsAndFilesInAnyOrder) {
 }
 
 TEST(CommandLineTest, RefusesWhatItCannotUse) {
-    for (const std::vector<std::string>& words :
-         {std::vector<std::string>{"--max-events"}, {"--max-events", "0"}, {"--max-events", "few"},
-          {"--snapshot="}, {"--headless=yes"}, {"--unknown"}, {"-x"},
-          {"--menu", "3"}, {"--menu", "0:1"}, {"--menu", "1:x"}, {"--menu", "99999999:1"}}) {
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"--max-events"},
+                                                  {"--max-events", "0"},
+                                                  {"--max-events", "few"},
+                                                  {"--snapshot="},
+                                                  {"--headless=yes"},
+                                                  {"--unknown"},
+                                                  {"-x"},
+                                                  {"--menu", "3"},
+                                                  {"--menu", "0:1"},
+                                                  {"--menu", "1:x"},
+                                                  {"--menu", "99999999:1"}}) {
         EXPECT_NE(Take(words).error, "") << words[0];
     }
 }

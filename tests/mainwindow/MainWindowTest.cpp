@@ -118,9 +118,9 @@ TEST_F(MainWindowTest, LimitsTakeWholeNumbersAboveZero) {
         std::string answer;
         int32_t limit;
     };
-    for (const Case& c : {Case{"1234", 1234}, Case{"77.9", 77}, Case{"", 50000}, Case{"0", 50000},
-                          Case{"-5", 50000}, Case{"0.9", 50000}, Case{"many", 50000},
-                          Case{"1e99", 2147483647}}) {
+    for (const Case& c :
+         {Case{"1234", 1234}, Case{"77.9", 77}, Case{"", 50000}, Case{"0", 50000},
+          Case{"-5", 50000}, Case{"0.9", 50000}, Case{"many", 50000}, Case{"1e99", 2147483647}}) {
         FastDrawLimit = 50000;
         platform.dialogs.texts = {c.answer};
         Choose("AsetaFastDrawLimit");

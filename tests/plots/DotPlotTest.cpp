@@ -51,8 +51,8 @@ TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
 }
 
 TEST_F(DotPlotTest, ColoursByTheHighestVisiblePopulation) {
-    ScriptedForm& form = Open({{"a", false, 1000, {100, 200, 300, 400}},
-                               {"b", false, 1000, {100, 200, 300, 400}}});
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {100, 200, 300, 400}}, {"b", false, 1000, {100, 200, 300, 400}}});
     DefinePolygon(2, "low", {255, 0, 0}, {1, 2, 3});
     DefinePolygon(17, "definition", {0, 255, 0}, {2, 3});
     DefinePolygon(18, "clear", {0, 0, 255}, {3});
@@ -159,26 +159,33 @@ TEST_F(DotPlotTest, DensityCellsAreRectanglesOnLargeSurfaces) {
 }
 
 TEST_F(DotPlotTest, RegionsAndTheirNames) {
-    ScriptedForm& form = Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}, {"c", false, 1000, {0}}});
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}, {"c", false, 1000, {0}}});
     DefinePolygon(1, "Poly-1", {255, 0, 0}, {});
     Populaatio& polygon = Populaatiot(1);
     polygon.Corners = 3;
     polygon.Created = 2;
-    const std::array<std::array<float, 2>, 3> corners = {{{2500, 2500}, {7500, 2500}, {5000, 9000}}};
+    const std::array<std::array<float, 2>, 3> corners = {
+        {{2500, 2500}, {7500, 2500}, {5000, 9000}}};
     for (std::size_t i = 0; i < corners.size(); ++i) {
         polygon.X[i + 1] = corners[i][0];
         polygon.Y[i + 1] = corners[i][1];
     }
     polygon.TitleX = 100;
     main.PiirraKaikki();
-    const auto isSide = [](const RecordingKuva::Stroke& s) { return s.x1 == 68 && s.y1 == 68 && s.x2 == 168; };
-    const auto sides = [&] { return std::count_if(form.surface.strokes.begin(), form.surface.strokes.end(), isSide); };
+    const auto isSide = [](const RecordingKuva::Stroke& s) {
+        return s.x1 == 68 && s.y1 == 68 && s.x2 == 168;
+    };
+    const auto sides = [&] {
+        return std::count_if(form.surface.strokes.begin(), form.surface.strokes.end(), isSide);
+    };
     EXPECT_EQ(sides(), 1);
     // Base: mean x 5000 less half of 6 characters, 21; mean y Int(4666.67) less 4.
     EXPECT_EQ(polygon.TitleBaseX, 4979);
     EXPECT_EQ(polygon.TitleBaseY, 4662);
     const auto& texts = form.surface.texts;
-    const auto name = std::find_if(texts.begin(), texts.end(), [](const auto& t) { return t.text == "Poly-1"; });
+    const auto name =
+        std::find_if(texts.begin(), texts.end(), [](const auto& t) { return t.text == "Poly-1"; });
     ASSERT_NE(name, texts.end());
     EXPECT_DOUBLE_EQ(name->x, 18 + 200 * 5079 / 10000.0 - 21);
     EXPECT_DOUBLE_EQ(name->y, 18 + 200 * 4662 / 10000.0 - 4);

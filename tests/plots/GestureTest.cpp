@@ -150,8 +150,8 @@ TEST_F(GestureTest, MovesCornersPolygonsAndNames) {
 
     // The name's handle is the upper left corner of its text.
     const auto& texts = form_.surface.texts;
-    const auto name = std::find_if(texts.begin(), texts.end(),
-                                   [](const auto& t) { return t.text == "Poly-1"; });
+    const auto name =
+        std::find_if(texts.begin(), texts.end(), [](const auto& t) { return t.text == "Poly-1"; });
     ASSERT_NE(name, texts.end());
     const double x = name->x;
     const double y = name->y;

@@ -36,8 +36,8 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     DefinePolygon(17, "Two and not Nobody", {1, 1, 1}, {2});
     const ScriptedGridForm& grid = OpenStatistics();
     EXPECT_EQ(grid.caption, "(1) Statistics: tube.fcs");
-    EXPECT_EQ(grid.table.rows[0].cells, (Row{"", "Number", "% of vis", "X mean", "Y mean",
-                                             "X geomean", "Y geomean"}));
+    EXPECT_EQ(grid.table.rows[0].cells,
+              (Row{"", "Number", "% of vis", "X mean", "Y mean", "X geomean", "Y geomean"}));
     // Means 100.1666 and 10; geometric: 0 and -10 count as 1, so the cube roots of
     // 1 * 100 * 200.5 = 20050, 27.1668, and of 1 * 10 * 30 = 300, 6.6943. All cut, not rounded.
     EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "3", "100", "100.16", "10", "27.16", "6.69"}));
@@ -68,8 +68,8 @@ TEST_F(StatisticsTest, QuadrantsDivideOnTheGrid) {
     EXPECT_EQ(grid.Row("Upper Left")[1], "1");
     EXPECT_EQ(grid.Row("Upper Right")[1], "1");
     EXPECT_EQ(grid.Row("Lower Left"), (Row{"Lower Left", "0", "0", "0", "0", "0", "0"}));
-    EXPECT_EQ(grid.Row("Lower Right"), (Row{"Lower Right", "2", "50", "700", "300", "670.82",
-                                            "223.6"}))
+    EXPECT_EQ(grid.Row("Lower Right"),
+              (Row{"Lower Right", "2", "50", "700", "300", "670.82", "223.6"}))
         << "an event on the lines goes right and down";
     EXPECT_EQ(grid.table.rows[2].cells[0], "") << "an empty row before them";
     EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("lr", "vis"), 50);
@@ -118,7 +118,8 @@ TEST_F(StatisticsTest, ItemsHeadersAndText) {
     EXPECT_EQ(window.AnnaKokoStatistiikka("1-rivinen-tieto"), "1\t5\t0\t0\t0\t0\t1\t5\t0\t0\t")
         << "the one event lies lower left";
     EXPECT_EQ(window.AnnaKokoStatistiikka("other"), "");
-    EXPECT_TRUE(window.AnnaKokoStatistiikka("monirivinen")->ends_with("Lower Left\t1\t5\nLower Right\t0\t0"));
+    EXPECT_TRUE(window.AnnaKokoStatistiikka("monirivinen")
+                    ->ends_with("Lower Left\t1\t5\nLower Right\t0\t0"));
 }
 
 TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
@@ -149,7 +150,8 @@ TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
 
 TEST_F(StatisticsTest, SavesEventsAsText) {
     FastDrawLimit = 1;
-    ScriptedForm& form = Open({{"a", false, 1000, {0.1F, 2, 1e10F}}, {"b", false, 1000, {-3, 0, 1}}});
+    ScriptedForm& form =
+        Open({{"a", false, 1000, {0.1F, 2, 1e10F}}, {"b", false, 1000, {-3, 0, 1}}});
     DefinePolygon(1, "g", {1, 1, 1}, {1, 3});
     IkkunaPaikassa(1)->NaytaPopulaatio(1);
     const std::string path =

@@ -81,7 +81,8 @@ void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
         unknown = unknown || from == 0;
         for (int j = 1; j <= n; ++j) {
             const int into = channels[static_cast<std::size_t>(j) - 1];
-            const auto factor = factors.At(static_cast<std::size_t>(i * n + j));
+            const auto factor = factors.At(static_cast<std::size_t>(i) * channels.size() +
+                                           static_cast<std::size_t>(j));
             // Numbers of 1 and above are the diagonal.
             if (factor && *factor < 1.0F && from != 0 && into != 0) {
                 file.Compensation(from, into) = *factor;

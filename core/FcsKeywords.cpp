@@ -21,9 +21,9 @@ struct Pattern {
 Pattern TakeApart(std::string_view pattern) {
     Pattern parts;
     for (std::size_t i = 0; i < pattern.size(); ++i) {
-        if (pattern[i] != '\\' || i + 1 == pattern.size()) {
-            parts.literal += pattern[i];
-        } else if (pattern[++i] == 'S' && parts.literal.empty()) {
+        const bool escape = pattern[i] == '\\' && i + 1 < pattern.size();
+        i += escape ? 1 : 0;
+        if (escape && pattern[i] == 'S' && parts.literal.empty()) {
             parts.nonBlankFirst = true;
         } else {
             parts.literal += pattern[i];

@@ -34,7 +34,14 @@ class AkseliProjektio {
     /// The same for the value of an event, which the neg value bumper may move first.
     double TapahtumanPaikka(double value, double scale) const;
 
+    /// The same for the values of a list of events, to the last bit: `positions[i]` is that of
+    /// `values[events[i] - 1]`.
+    void TapahtumienPaikat(std::span<const float> values, std::span<const int32_t> events,
+                           double scale, std::span<double> positions) const;
+
   private:
+    void Place(std::span<double> values, double scale, double* positions) const;
+
     bool isLog_;
     bool usable_;
     double range_;

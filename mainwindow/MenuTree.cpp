@@ -10,7 +10,7 @@ struct Row {
     std::string_view menu;
     std::string_view command;
     std::string_view caption;
-    std::string_view shortcut = "";
+    std::string_view shortcut = {};
     bool checkable = false;
 };
 

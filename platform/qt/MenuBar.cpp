@@ -44,7 +44,9 @@ void MenuBar::AddItem(QMenu& menu, const MenuItem& item) {
             // The program decides what is checked; Qt has toggled it already.
             action->setChecked(!on);
         }
-        const std::string name = command;  // building menus anew destroys this function
+        // Building menus anew destroys this function, and the name with it.
+        // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+        const std::string name = command;
         chosen_(name);
     });
 }

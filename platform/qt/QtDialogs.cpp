@@ -48,7 +48,7 @@ std::string QtDialogs::Input(std::string_view prompt, std::string_view title,
 }
 
 QString QtDialogs::Start(const std::string& presetName) const {
-    const QString name = ToQt(presetName);
+    QString name = ToQt(presetName);
     if (folder_.isEmpty() || QDir::isAbsolutePath(name)) {
         return name;
     }

@@ -14,7 +14,7 @@ namespace tessarin {
 namespace {
 
 // The pattern as the engine wants it: it knows no escaped letter but those of its classes.
-std::string EngineKeyword(std::string pattern) {
+std::string EngineKeyword(const std::string& pattern) {
     return pattern.starts_with("\\A") ? pattern.substr(1) : pattern;
 }
 

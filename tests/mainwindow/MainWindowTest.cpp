@@ -222,7 +222,7 @@ class FileLoadingTest : public ProgramTest {
     }
 
     std::string WriteBytes(const std::string& name, const std::string& bytes) {
-        const std::string path = folder_ + name;
+        std::string path = folder_ + name;
         std::ofstream(path, std::ios::binary) << bytes;
         return path;
     }

@@ -5,6 +5,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
@@ -44,8 +45,13 @@ QPoint GridWidget::Corner() const {
 }
 
 void GridWidget::FitScrollBars() {
-    SetRange(*horizontalScrollBar(), cells_.Size().width(), viewport()->width());
-    SetRange(*verticalScrollBar(), cells_.Size().height(), viewport()->height());
+    // When all of it fits, both bars go at once: each of them might be there for the other only.
+    const QSize whole = cells_.Size();
+    const QSize room = maximumViewportSize();
+    const bool fits = whole.boundedTo(room) == whole;
+    const QSize shown = fits ? room : viewport()->size();
+    SetRange(*horizontalScrollBar(), whole.width(), shown.width());
+    SetRange(*verticalScrollBar(), whole.height(), shown.height());
 }
 
 void GridWidget::resizeEvent(QResizeEvent* /*event*/) {
@@ -70,8 +76,14 @@ void GridWidget::paintEvent(QPaintEvent* event) {
 }
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {
-    if (events_ != nullptr && event->button() == Qt::RightButton) {
-        events_->Grid_RightPress();
+    if (event->button() == Qt::RightButton) {
+        // Qt sends another event after a right press, to a widget that may be gone when a pop-up
+        // menu was waited for in between.
+        QTimer::singleShot(0, this, [this] {
+            if (events_ != nullptr) {
+                events_->Grid_RightPress();
+            }
+        });
     }
 }
 

@@ -15,6 +15,7 @@ from desktop import Desktop, missing_programs  # noqa: E402
 PROGRAM = ""
 BACKGROUND = 0x221E1F
 BLACK, WHITE = 0x000000, 0xFFFFFF
+RED = 0xFF3200  # of the first population
 
 
 def fcs_bytes(events, pixels_range=1000):
@@ -94,13 +95,13 @@ class EndToEnd(unittest.TestCase):
 
         # Density by the pop-up menu: two events in one cell are of grey 95.
         desktop.click(130, 100, 3)
-        desktop.key("Down", "Down", "Down", "Return")
+        desktop.key("Down", "Down", "Down", "Down", "Return")
         desktop.until(lambda: self.count(0x5F5F5F, (20, 60, 244, 264)) > 0, "the density of two")
         self.assertGreater(self.count(0x3C3C3C, (20, 60, 244, 264)), 0)
 
         # The other background, and a larger window by its lower right corner.
         desktop.click(130, 100, 3)
-        desktop.key("Up", "Up", "Up", "Return")
+        desktop.key("Up", "Up", "Up", "Up", "Return")
         before = desktop.until(
             lambda: self.count(WHITE, (0, 0, 266, 300)) > 40000 and self.frame_corner(),
             "a white plot",
@@ -122,6 +123,42 @@ class EndToEnd(unittest.TestCase):
         desktop.key("Return")
         self.assertEqual(self.program.wait(20), 0)
         self.assertEqual(self.program.stderr.read().decode(), "")
+
+    def test_a_region_colours_the_events_inside(self):
+        # Dots a tenth of the axes apart; a pixel of the plot area is about 4.5 units wide and 5
+        # high, so a border at 350 or 650 runs well between two of them.
+        dots = [(x, y) for x in range(100, 1000, 100) for y in range(100, 1000, 100)]
+        self.start(self.file("dots.fcs", dots))
+        self.wait_for_plot()
+        desktop = self.desktop
+        plot = (20, 60, 246, 264)  # on the screen: the plot area and a little around it
+        before = self.count(RED, plot)
+        self.assertEqual(before, 0)
+
+        self.press_in_panel(987, 118)
+        place = lambda x, y: (22 + x * 222 // 1000, 263 - y * 202 // 1000)
+        for corner in ((350, 250), (650, 250), (650, 650), (350, 650)):
+            desktop.click(*place(*corner))
+        desktop.click(*place(350, 250))
+        # x 400, 500, 600 and y 300, 400, 500, 600.
+        desktop.until(lambda: self.count(RED, plot) == 12, "twelve red dots")
+
+        # The upper edge up by a fifth takes in two rows of three; the name stays between rows.
+        for x in (350, 650):
+            desktop.drag(*place(x, 650), *place(x, 850))
+        desktop.until(lambda: self.count(RED, plot) == 18, "eighteen red dots")
+
+        # And "Delete" takes the region away.
+        self.press_in_panel(1065, 118)
+        desktop.wait_for_window("Delete population")
+        desktop.key("Return")
+        desktop.until(lambda: self.count(RED, plot) == 0, "the region to go")
+
+    def press_in_panel(self, x, y):
+        # The panel slides open under the mouse.
+        self.desktop.move(1196, 500)
+        self.desktop.until(lambda: self.desktop.picture().at(950, 300) != BACKGROUND, "the panel")
+        self.desktop.click(x, y)
 
     def count(self, color, box):
         return self.desktop.picture().count(color, box)

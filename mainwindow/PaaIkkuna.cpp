@@ -6,6 +6,7 @@
 #include "core/Muuttujat.h"
 #include "mainwindow/Exit.h"
 #include "mainwindow/FileLoading.h"
+#include "mainwindow/FileNavigation.h"
 #include "mainwindow/LimitDialogs.h"
 #include "mainwindow/MenuTree.h"
 #include "mainwindow/WindowList.h"
@@ -16,6 +17,8 @@ namespace tessarin {
 const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
     static const std::map<std::string_view, Handler> handlers = {
         {"FileOpenFCS", [](PaaIkkuna& main) { FileOpenFCS(main); }},
+        {"FileNextFile", FileNextFile},
+        {"FilePreviousFile", FilePreviousFile},
         {"FileExit", [](PaaIkkuna& main) { FileExit(main); }},
         {"CopyImages", [](PaaIkkuna& main) { main.CopyImages(); }},
         {"SelectAll", [](PaaIkkuna&) { ValitseKaikki(); }},

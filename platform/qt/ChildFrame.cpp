@@ -59,7 +59,7 @@ Twips ChildFrame::OuterHeight() const {
 }
 
 bool ChildFrame::HasOwnSize() const {
-    return window_ && !window_->isMinimized() && !window_->isMaximized();
+    return window_ != nullptr && !window_->isMinimized() && !window_->isMaximized();
 }
 
 QSize ChildFrame::ClientSize() const {

@@ -1,12 +1,14 @@
 // The main window on a scripted platform: menus, windows, selection, files and the end.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <set>
 
 #include "mainwindow/FileLoading.h"
+#include "mainwindow/FileNavigation.h"
 #include "mainwindow/WindowList.h"
 #include "tests/support/ProgramFixture.h"
 
@@ -310,6 +312,39 @@ TEST_F(FileLoadingTest, NewFilesGetTheirMembersAndOddOnesAWord) {
     OpenFcs(Write("plain.fcs"));
     EXPECT_EQ(platform.mainForm.status, "");
     EXPECT_EQ(platform.pointer.history.back(), MousePointer::kNormal);
+}
+
+TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
+    for (int i = 1; i <= 4; ++i) {
+        Write("tube" + std::to_string(i), i);
+    }
+    WriteBytes("notes.txt", "no data");
+    std::filesystem::create_directory(folder_ + "FCS3.0");
+    const std::vector<std::string> files = TeeLista(folder_);
+    ASSERT_EQ(files.size(), 4U);
+    OpenFcs(folder_ + files[1]);
+    const auto shown = [](int16_t window) { return Tiedostot(Ikkunat(window).FileIndex).FileName; };
+    Choose("FileNextFile");
+    EXPECT_EQ(shown(1), files[2]);
+    EXPECT_EQ(std::count_if(Tiedostot.begin(), Tiedostot.end(),
+                            [](const Tiedosto& file) { return file.Valid; }),
+              1)
+        << "the old file is freed";
+    NewDotPlot();
+    Choose("FileNextFile");  // window 2 alone is selected
+    EXPECT_EQ(shown(1), files[2]);
+    EXPECT_EQ(shown(2), files[3]);
+    Choose("FileNextFile");
+    EXPECT_EQ(shown(2), files[3]) << "there is no way round";
+    Choose("SelectAll");
+    Choose("FilePreviousFile");
+    EXPECT_EQ(shown(1), files[1]);
+    EXPECT_EQ(shown(2), files[2]);
+    std::filesystem::remove(folder_ + files[1]);
+    EXPECT_FALSE(EdellinenTiedosto(main, 1)) << "a file that is gone is in no list";
+    EXPECT_TRUE(SeuraavaTiedosto(main, 1));
+    EXPECT_EQ(shown(1), TeeLista(folder_)[0]);
+    EXPECT_TRUE(TeeLista("nowhere/").empty());
 }
 
 TEST_F(FileLoadingTest, DroppedFilesOpenAsFromTheMenu) {

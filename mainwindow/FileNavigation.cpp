@@ -1,0 +1,106 @@
+#include "mainwindow/FileNavigation.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "core/FCSReader.h"
+#include "core/Muuttujat.h"
+#include "mainwindow/FileLoading.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
+
+namespace tessarin {
+namespace {
+
+// Frees what no window shows any more and saves; the end of each step.
+bool Finish(PaaIkkuna& main, bool opened) {
+    VapautaKayttamattomat();
+    main.TalletaNakyma("Autosave");
+    return opened;
+}
+
+// Where a window's file stands in the list of its folder, from 1; 0 when it is not there.
+struct Place {
+    std::string folder;
+    std::vector<std::string> files;
+    std::ptrdiff_t number = 0;
+
+    explicit Place(int16_t window) {
+        const Tiedosto& file = Tiedostot(Ikkunat(window).FileIndex);
+        folder = file.Folder;
+        files = TeeLista(folder);
+        const auto found = std::find(files.begin(), files.end(), file.FileName);
+        number = found == files.end() ? 0 : found - files.begin() + 1;
+    }
+};
+
+bool HasFile(int16_t window) {
+    return IkkunaPaikassa(window) != nullptr && Ikkunat(window).FileIndex != 0;
+}
+
+bool Open(PaaIkkuna& main, int16_t window, const Place& place, std::ptrdiff_t number) {
+    const std::string path = place.folder + place.files[static_cast<std::size_t>(number) - 1];
+    return TiedostonLukuToimenPiteet(main, path, window, 0);
+}
+
+using Step = bool (*)(PaaIkkuna&, int16_t);
+
+void StepSelected(PaaIkkuna& main, Step step) {
+    for (int16_t window = 1; window <= MaxWindows; ++window) {
+        if (HasFile(window) && Ikkunat(window).Selected) {
+            step(main, window);
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> TeeLista(const std::string& folder) {
+    std::vector<std::string> files;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (OnkoFcs(folder + name)) {
+            files.push_back(std::move(name));
+        }
+    }
+    return files;
+}
+
+bool EnsimmainenTiedostoHakemisto(PaaIkkuna& main, int16_t window, const std::string& folder) {
+    const std::vector<std::string> files = TeeLista(folder);
+    const bool opened =
+        !files.empty() && TiedostonLukuToimenPiteet(main, folder + files[0], window, 0);
+    return Finish(main, opened);
+}
+
+bool SeuraavaTiedosto(PaaIkkuna& main, int16_t window) {
+    if (!HasFile(window)) {
+        return false;
+    }
+    const Place place(window);
+    const auto count = static_cast<std::ptrdiff_t>(place.files.size());
+    const bool opened =
+        count > 1 && place.number < count && Open(main, window, place, place.number + 1);
+    return Finish(main, opened);
+}
+
+bool EdellinenTiedosto(PaaIkkuna& main, int16_t window) {
+    if (!HasFile(window)) {
+        return false;
+    }
+    const Place place(window);
+    const bool opened = place.number > 1 && Open(main, window, place, place.number - 1);
+    return Finish(main, opened);
+}
+
+void FileNextFile(PaaIkkuna& main) {
+    StepSelected(main, SeuraavaTiedosto);
+}
+
+void FilePreviousFile(PaaIkkuna& main) {
+    StepSelected(main, EdellinenTiedosto);
+}
+
+}  // namespace tessarin

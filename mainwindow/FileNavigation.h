@@ -1,0 +1,32 @@
+// Stepping windows through the data files of their folders.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tessarin {
+
+class PaaIkkuna;
+
+/// `TeeLista` means make the list: names of the data files in a folder, in the order that the
+/// file system gives them. Empty for a folder that is empty or cannot be read.
+std::vector<std::string> TeeLista(const std::string& folder);
+
+/// Opens the first data file of a folder in that window. False when there is none or it was
+/// refused; the window then stays as it is.
+bool EnsimmainenTiedostoHakemisto(PaaIkkuna& main, int16_t window, const std::string& folder);
+
+/// `SeuraavaTiedosto` means next file: opens in that window the file behind its own in its folder,
+/// or the first when its own is not in the folder's list. False, the window staying as it is, at
+/// the end of the list (there is no way around), in a folder of one file, or when refused.
+bool SeuraavaTiedosto(PaaIkkuna& main, int16_t window);
+/// `EdellinenTiedosto` means previous file: the same, backwards.
+bool EdellinenTiedosto(PaaIkkuna& main, int16_t window);
+
+/// "Next file" and "Previous file": every selected window steps from its own file in its own
+/// folder.
+void FileNextFile(PaaIkkuna& main);
+void FilePreviousFile(PaaIkkuna& main);
+
+}  // namespace tessarin

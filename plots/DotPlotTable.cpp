@@ -11,6 +11,7 @@ namespace tessarin {
 namespace {
 
 constexpr Twips kHeadColumn{1500};
+constexpr Twips kValueColumn{1200};  // wide enough for its head
 
 // The value columns: the item that makes each visible, its head, and its text for a row.
 struct Column {
@@ -53,7 +54,7 @@ class Layout {
         for (const Column& column : kColumns) {
             if (window.OnkoNakyvissa(column.item)) {
                 columns_.push_back(&column);
-                table_.columnWidths.push_back(GridForm::kColumnWidth);
+                table_.columnWidths.push_back(kValueColumn);
             }
         }
     }

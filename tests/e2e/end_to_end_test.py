@@ -121,8 +121,8 @@ class EndToEnd(unittest.TestCase):
         desktop.key("Up", "Return")
         desktop.wait_for_window("Exit the program")
         desktop.key("Return")
-        self.assertEqual(self.program.wait(20), 0)
-        self.assertEqual(self.program.stderr.read().decode(), "")
+        _, complaints = self.program.communicate(timeout=20)
+        self.assertEqual((self.program.returncode, complaints.decode()), (0, ""))
 
     def test_a_region_colours_the_events_inside(self):
         # Dots a tenth of the axes apart; a pixel of the plot area is about 4.5 units wide and 5

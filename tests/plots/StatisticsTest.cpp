@@ -46,7 +46,7 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     EXPECT_EQ(grid.Row("Nobody"), (Row{"Nobody", "0", "0", "0", "0", "0", "0"}));
     EXPECT_EQ(grid.Row("Two and not Nobody")[1], "1");
     EXPECT_EQ(grid.table.Rows(), 5) << "no row for a region of other channels";
-    EXPECT_EQ(grid.width.count, 6 * 960 + 1500 + 100);
+    EXPECT_EQ(grid.width.count, 6 * 1200 + 1500 + 100);
     EXPECT_EQ(grid.height.count, 5 * 240 + 380);
 
     IkkunaPaikassa(1)->NaytaPopulaatio(4);

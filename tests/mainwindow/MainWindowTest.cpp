@@ -2,15 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <set>
 
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/FileNavigation.h"
 #include "mainwindow/WindowList.h"
+#include "tests/support/FcsBuilder.h"
 #include "tests/support/ProgramFixture.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace tessarin {
 namespace {
@@ -203,44 +203,21 @@ TEST_F(MainWindowTest, HelpAboutAndCopy) {
 class FileLoadingTest : public ProgramTest {
   protected:
     // A file of two channels and `events` events, 16-bit integers, all of value 7.
-    std::string Write(const std::string& name, int events = 3, const std::string& more = "") {
-        const std::string text = "/$TOT/" + std::to_string(events) +
-                                 "/$PAR/2/$DATATYPE/I/$BYTEORD/1,2,3,4/$P1N/A/$P1R/1024/$P1B/16"
-                                 "/$P2N/B/$P2R/1024/$P2B/16" +
-                                 more + "/";
-        const auto number = [](std::size_t n) {
-            std::string digits = std::to_string(n);
-            return std::string(8 - digits.size(), ' ') + digits;
-        };
-        const std::size_t data = 58 + text.size();
-        std::string bytes = "FCS3.0    " + number(58) + number(data - 1) + number(data) +
-                            number(data + static_cast<std::size_t>(events) * 4 - 1);
-        bytes.resize(58, ' ');
-        bytes += text;
+    std::string Write(const std::string& name, int events = 3, const std::string& mode = "L") {
+        FcsBuilder file("I", 16, "1,2,3,4", 2, events);
+        file.Set("$MODE", mode);
         for (int i = 0; i < events * 2; ++i) {
-            bytes += std::string("\x07\x00", 2);
+            file.AddInteger(7);
         }
-        return WriteBytes(name, bytes);
+        return folder_.Write(name, file.Bytes());
     }
-
-    std::string WriteBytes(const std::string& name, const std::string& bytes) {
-        std::string path = folder_ + name;
-        std::ofstream(path, std::ios::binary) << bytes;
-        return path;
-    }
-
-    FileLoadingTest() {
-        char pattern[] = "/tmp/tessarin-test-XXXXXX";
-        folder_ = std::string(mkdtemp(pattern)) + "/";
-    }
-    ~FileLoadingTest() override { std::filesystem::remove_all(folder_); }
 
     void OpenFcs(const std::string& path) {
         platform.dialogs.texts = {path};
         Choose("FileOpenFCS");
     }
 
-    std::string folder_;
+    TemporaryFolder folder_;
 };
 
 TEST_F(FileLoadingTest, OpensIntoANewWindowOrTheSelectedOnes) {
@@ -267,7 +244,7 @@ TEST_F(FileLoadingTest, OpensIntoANewWindowOrTheSelectedOnes) {
 
 TEST_F(FileLoadingTest, RefusedFilesChangeNothing) {
     const std::string good = Write("good.fcs");
-    const std::string bad = WriteBytes("bad.fcs", "FCS3.1 and so on");
+    const std::string bad = folder_.Write("bad.fcs", "FCS3.1 and so on");
     OpenFcs(bad);
     EXPECT_TRUE(platform.mainForm.children.empty()) << "no empty window is left behind";
     OpenFcs(good);
@@ -306,7 +283,7 @@ TEST_F(FileLoadingTest, NewFilesGetTheirMembersAndOddOnesAWord) {
         Populaatiot(slot).Defined = true;
         Populaatiot(slot).Type = "Polygon";
     }
-    OpenFcs(Write("odd.fcs", 3, "/$MODE/C"));
+    OpenFcs(Write("odd.fcs", 3, "C"));
     EXPECT_EQ(order, (std::vector<int>{2, 5, 20}));
     EXPECT_TRUE(platform.mainForm.status.starts_with("odd.fcs: "));
     OpenFcs(Write("plain.fcs"));
@@ -318,11 +295,11 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     for (int i = 1; i <= 4; ++i) {
         Write("tube" + std::to_string(i), i);
     }
-    WriteBytes("notes.txt", "no data");
-    std::filesystem::create_directory(folder_ + "FCS3.0");
-    const std::vector<std::string> files = TeeLista(folder_);
+    folder_.Write("notes.txt", "no data");
+    std::filesystem::create_directory(folder_.Path("FCS3.0"));
+    const std::vector<std::string> files = TeeLista(folder_.Path());
     ASSERT_EQ(files.size(), 4U);
-    OpenFcs(folder_ + files[1]);
+    OpenFcs(folder_.Path(files[1]));
     const auto shown = [](int16_t window) { return Tiedostot(Ikkunat(window).FileIndex).FileName; };
     Choose("FileNextFile");
     EXPECT_EQ(shown(1), files[2]);
@@ -340,10 +317,10 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     Choose("FilePreviousFile");
     EXPECT_EQ(shown(1), files[1]);
     EXPECT_EQ(shown(2), files[2]);
-    std::filesystem::remove(folder_ + files[1]);
+    std::filesystem::remove(folder_.Path(files[1]));
     EXPECT_FALSE(EdellinenTiedosto(main, 1)) << "a file that is gone is in no list";
     EXPECT_TRUE(SeuraavaTiedosto(main, 1));
-    EXPECT_EQ(shown(1), TeeLista(folder_)[0]);
+    EXPECT_EQ(shown(1), TeeLista(folder_.Path())[0]);
     EXPECT_TRUE(TeeLista("nowhere/").empty());
 }
 

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -10,6 +9,7 @@
 #include "plots/EventText.h"
 #include "plots/Statistics.h"
 #include "tests/support/PlotFixture.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace tessarin {
 namespace {
@@ -154,9 +154,8 @@ TEST_F(StatisticsTest, SavesEventsAsText) {
         Open({{"a", false, 1000, {0.1F, 2, 1e10F}}, {"b", false, 1000, {-3, 0, 1}}});
     DefinePolygon(1, "g", {1, 1, 1}, {1, 3});
     IkkunaPaikassa(1)->NaytaPopulaatio(1);
-    const std::string path =
-        (std::filesystem::temp_directory_path() / "tessarin-events.txt").string();
-    std::filesystem::remove(path);
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("events.txt");
     platform.dialogs.texts = {path, path};
     ChoosePopup(form, 16);
     std::ostringstream text;
@@ -165,8 +164,7 @@ TEST_F(StatisticsTest, SavesEventsAsText) {
     platform.dialogs.answers = {false};
     ChoosePopup(form, 16);
     EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
-    std::filesystem::remove(path);
-    platform.dialogs.texts = {"/nowhere/at/all.txt"};
+    platform.dialogs.texts = {folder.Path("nowhere/at/all.txt")};
     ChoosePopup(form, 16);
     EXPECT_EQ(platform.dialogs.messages.size(), 1U);
 }

@@ -39,7 +39,8 @@ void TakeOptions(const CommandLine& line) {
 
 void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
     for (const std::string& file : line.files) {
-        AvaaUuteenIkkunaan(main, std::filesystem::absolute(file).lexically_normal().string());
+        const std::string path = std::filesystem::absolute(file).lexically_normal().string();
+        AvaaUuteenIkkunaan(main, path, TavallinenLukuTapa(path));
     }
 }
 

@@ -18,6 +18,7 @@
 #include "core/FcsOddities.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
+#include "core/TableSize.h"
 #include "core/Text.h"
 
 namespace tessarin {
@@ -82,18 +83,6 @@ bool HasOldScale(const Tiedosto& file) {
     const std::string& cytometer = file.Otsikko.Cytometer;
     return cytometer == "FACScan" || cytometer == "FACSCalibur" ||
            (cytometer == "LSRII" && file.FcsMajor == 2);
-}
-
-// Whether tables of that size are sane for a file of that many bytes. Every event that is really
-// there takes at least two bytes of it, so a file that is whole never comes near this bound; one
-// that only promises events must not take the machine's memory with a number in a keyword.
-bool TablesAreSane(int64_t events, int64_t channels, uint64_t fileSize) {
-    constexpr uint64_t kAlwaysAllowed = uint64_t{256} << 20U;
-    constexpr uint64_t kMostTimesFileSize = 64;
-    const auto bytes = static_cast<uint64_t>(
-        events * (channels * 2 * static_cast<int64_t>(sizeof(float)) + kPopulationSlots) +
-        channels * channels * static_cast<int64_t>(sizeof(float)));
-    return bytes <= kAlwaysAllowed + kMostTimesFileSize * fileSize;
 }
 
 // One reading of one file; its steps stand in the order in which they run.
@@ -203,7 +192,7 @@ class FcsReading {
 
     // False when no such tables should be had; throws when they cannot be had.
     bool SizeTables() {
-        if (!TablesAreSane(file_.EventCount, file_.ChannelCount, source_.Size())) {
+        if (!OvatkoTaulutJarkevat(file_.EventCount, file_.ChannelCount, source_.Size())) {
             return false;
         }
         file_.Compensation.Mitoita(file_.ChannelCount, file_.ChannelCount);

@@ -141,4 +141,18 @@ std::string NumberText(float value) {
     return TextOf(value, 7);
 }
 
+void AppendNumber(std::string& text, float value) {
+    // Most numbers in tables are whole and short; those need no digits worked out.
+    constexpr float kSevenDigits = 9999999;
+    if (std::fabs(value) <= kSevenDigits && value == std::trunc(value)) {
+        std::array<char, 16> buffer;
+        const auto end =
+            std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<int32_t>(value))
+                .ptr;
+        text.append(buffer.data(), end);
+    } else {
+        text += TextOf(value, 7);
+    }
+}
+
 }  // namespace tessarin

@@ -32,4 +32,7 @@ std::optional<int32_t> ParseWholeNumber(std::string_view text);
 std::string NumberText(double value);
 std::string NumberText(float value);
 
+/// Writes it behind `text`.
+void AppendNumber(std::string& text, float value);
+
 }  // namespace tessarin

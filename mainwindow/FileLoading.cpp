@@ -1,5 +1,6 @@
 #include "mainwindow/FileLoading.h"
 
+#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include "core/Kompensaatio.h"
 #include "core/Muuttujat.h"
 #include "core/PopulationEvaluation.h"
+#include "core/TXTReader.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 
@@ -34,9 +36,26 @@ int16_t FreeSlot() {
     return 0;
 }
 
+// Reads a text table, puts it on the clipboard, and tells of cells that were no numbers.
+Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
+    TxtTulos read = LueTXT(path);
+    if (read.file.Valid) {
+        Clipboard& clipboard = main.Services().clipboard;
+        clipboard.Clear();
+        clipboard.SetText(TaulukkoTekstina(read.file));
+    }
+    if (read.badCells > 0) {
+        main.Services().dialogs.Message(std::to_string(read.badCells) + " cells of " +
+                                            read.file.FileName +
+                                            " were missing or no numbers and were read as 0.",
+                                        "Open Tabbed TXT file");
+    }
+    return std::move(read.file);
+}
+
 // Reads into a slot; on refusal the slot keeps what it holds and the user is told.
-bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot) {
-    Tiedosto file = LueFCS(path);
+bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot, LukuTapa way) {
+    Tiedosto file = way == LukuTapa::kTxt ? ReadTable(main, path) : LueFCS(path);
     if (!file.Valid) {
         main.Services().dialogs.Message("The file was not valid flow cytometry file", "Load error");
         return false;
@@ -47,7 +66,7 @@ bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot) {
 }
 
 // The slot that holds the file now, read if need be; 0 when it could not be had.
-int16_t FindOrRead(PaaIkkuna& main, const std::string& path) {
+int16_t FindOrRead(PaaIkkuna& main, const std::string& path, LukuTapa way) {
     if (const int16_t loaded = LoadedSlot(path)) {
         return loaded;
     }
@@ -58,7 +77,7 @@ int16_t FindOrRead(PaaIkkuna& main, const std::string& path) {
                                         "Too many files open");
         return 0;
     }
-    if (!ReadInto(main, path, slot)) {
+    if (!ReadInto(main, path, slot, way)) {
         return 0;
     }
     TarkistaPopulaatiot();
@@ -94,11 +113,11 @@ std::vector<int16_t> SelectedWindows() {
 }  // namespace
 
 bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t window,
-                               int16_t slot) {
+                               int16_t slot, LukuTapa way) {
     int16_t taken = slot;
     if (slot == 0) {
-        taken = FindOrRead(main, path);
-    } else if (!ReadInto(main, path, slot)) {
+        taken = FindOrRead(main, path, way);
+    } else if (!ReadInto(main, path, slot, way)) {
         taken = 0;
     }
     if (taken == 0) {
@@ -110,13 +129,13 @@ bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t
     return shown;
 }
 
-void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path) {
+void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path, LukuTapa way) {
     const int16_t id = VapaaIkkunaPaikka();
     if (id == 0) {
         return;
     }
     // The file comes first, so that a refused one leaves no empty window.
-    const int16_t slot = FindOrRead(main, path);
+    const int16_t slot = FindOrRead(main, path, way);
     if (slot == 0) {
         return;
     }
@@ -126,15 +145,15 @@ void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path) {
     main.TalletaNakyma("Autosave");
 }
 
-void AvaaValittuihin(PaaIkkuna& main, const std::string& path) {
+void AvaaValittuihin(PaaIkkuna& main, const std::string& path, LukuTapa way) {
     const std::vector<int16_t> selected = SelectedWindows();
     if (selected.empty()) {
-        AvaaUuteenIkkunaan(main, path);
+        AvaaUuteenIkkunaan(main, path, way);
         return;
     }
     for (const int16_t id : selected) {
         // What is refused once is refused again; one message is enough.
-        if (!TiedostonLukuToimenPiteet(main, path, id, 0)) {
+        if (!TiedostonLukuToimenPiteet(main, path, id, 0, way)) {
             break;
         }
     }
@@ -142,11 +161,27 @@ void AvaaValittuihin(PaaIkkuna& main, const std::string& path) {
     main.TalletaNakyma("Autosave");
 }
 
+LukuTapa TavallinenLukuTapa(const std::string& path) {
+    std::string ending = std::filesystem::path(path).extension().string();
+    for (char& letter : ending) {
+        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    }
+    return ending == ".txt" ? LukuTapa::kTxt : LukuTapa::kFcs;
+}
+
 void FileOpenFCS(PaaIkkuna& main) {
     const std::string path =
         main.Services().dialogs.OpenFile({"Open FCS file", "FCS files (*.*)|*.*"});
     if (!path.empty()) {
-        AvaaValittuihin(main, path);
+        AvaaValittuihin(main, path, LukuTapa::kFcs);
+    }
+}
+
+void FileOpenTXT(PaaIkkuna& main) {
+    const std::string path = main.Services().dialogs.OpenFile(
+        {"Open Tabbed TXT file", "Tabbed TXT files (*.txt)|*.txt"});
+    if (!path.empty()) {
+        AvaaValittuihin(main, path, LukuTapa::kTxt);
     }
 }
 

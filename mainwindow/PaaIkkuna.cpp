@@ -17,6 +17,7 @@ namespace tessarin {
 const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
     static const std::map<std::string_view, Handler> handlers = {
         {"FileOpenFCS", [](PaaIkkuna& main) { FileOpenFCS(main); }},
+        {"FileOpenTXT", FileOpenTXT},
         {"FileNextFile", FileNextFile},
         {"FilePreviousFile", FilePreviousFile},
         {"FileExit", [](PaaIkkuna& main) { FileExit(main); }},
@@ -123,7 +124,8 @@ void PaaIkkuna::FilesDropped(const std::vector<std::string>& paths) {
     // The first goes where "Open FCS..." would put it; the others would only replace it there.
     bool first = true;
     for (const std::string& path : paths) {
-        first ? AvaaValittuihin(*this, path) : AvaaUuteenIkkunaan(*this, path);
+        const LukuTapa way = TavallinenLukuTapa(path);
+        first ? AvaaValittuihin(*this, path, way) : AvaaUuteenIkkunaan(*this, path, way);
         first = false;
     }
 }

@@ -264,7 +264,7 @@ TEST_F(FileLoadingTest, RefusedFilesChangeNothing) {
 TEST_F(FileLoadingTest, TwentyFilesAndNoMore) {
     for (int i = 1; i <= MaxFiles; ++i) {
         platform.mainForm.events->FilesDropped({});
-        AvaaUuteenIkkunaan(main, Write("f" + std::to_string(i) + ".fcs", i));
+        AvaaUuteenIkkunaan(main, Write("f" + std::to_string(i) + ".fcs", i), LukuTapa::kFcs);
     }
     EXPECT_TRUE(platform.dialogs.messages.empty());
     OpenFcs(Write("one-more.fcs", 21));
@@ -322,6 +322,23 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     EXPECT_TRUE(SeuraavaTiedosto(main, 1));
     EXPECT_EQ(shown(1), TeeLista(folder_.Path())[0]);
     EXPECT_TRUE(TeeLista("nowhere/").empty());
+}
+
+TEST_F(FileLoadingTest, TextTablesOpenLikeFiles) {
+    platform.dialogs.texts = {folder_.Write("t.txt", "Name\tA\tB\r\nx\t1\t2,5\r\ny\t\tno\r\n")};
+    platform.clipboard.text = "old";
+    Choose("FileOpenTXT");
+    EXPECT_EQ(platform.dialogs.questions.back().title, "Open Tabbed TXT file");
+    EXPECT_EQ(LastForm().caption, "[S] (1): Dot Plot - t.txt");
+    EXPECT_EQ(Tiedostot(1).Data(1, 2), 2.5F);
+    EXPECT_EQ(platform.clipboard.text, "\tA\tB\t\nx\t1\t2.5\t\ny\t0\t0\t\n");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_TRUE(platform.dialogs.messages[0].text.starts_with("2 cells of t.txt"));
+    platform.dialogs.texts = {folder_.Write("empty.txt", "")};
+    Choose("FileOpenTXT");
+    EXPECT_EQ(platform.dialogs.messages.back().title, "Load error");
+    platform.mainForm.events->FilesDropped({folder_.Write("drop.TXT", "A\tB\n3\t4")});
+    EXPECT_EQ(Tiedostot(Ikkunat(1).FileIndex).EventCount, 1) << "the last line needs no end";
 }
 
 TEST_F(FileLoadingTest, DroppedFilesOpenAsFromTheMenu) {

@@ -146,7 +146,7 @@ void AppendNumber(std::string& text, float value) {
     constexpr float kSevenDigits = 9999999;
     if (std::fabs(value) <= kSevenDigits && value == std::trunc(value)) {
         std::array<char, 16> buffer;
-        const auto end =
+        auto* const end =
             std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<int32_t>(value))
                 .ptr;
         text.append(buffer.data(), end);

@@ -62,7 +62,7 @@ TEST_F(TxtReaderTest, HostileTablesAreRefusedOrOpenSmall) {
     EXPECT_EQ(Read("one line").file.EventCount, 0);
     EXPECT_EQ(Read(std::string(10 << 20, 'x') + "\n1\n").file.Data(1, 1), 1);
     EXPECT_EQ(Read("A\n" + std::string(10 << 20, '9') + "\n").badCells, 1);
-    EXPECT_EQ(Read(std::string("A\n\0\n5\0\n", 8)).file.Data(2, 1), 5);
+    EXPECT_EQ(Read(std::string("A\n\0\n5\0\n", 7)).file.Data(2, 1), 5);
     MaxLoadedEvents = 2;
     EXPECT_EQ(Read("A\n1\n2\n3\n").file.EventCount, 2);
 }

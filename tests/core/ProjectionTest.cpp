@@ -1,4 +1,4 @@
-// Positions on axes, one event at a time and in columns.
+// Positions on axes, one event at a time and in columns, and the logarithm behind them.
 #include "core/Projektio.h"
 
 #include <bit>
@@ -7,75 +7,72 @@
 #include <numeric>
 #include <random>
 
+#include "core/Logarithm.h"
 #include "tests/support/SessionFixture.h"
 
 namespace tessarin {
 namespace {
 
-class ProjectionTest : public SessionTest {
-  protected:
-    // A file of one channel with these values.
-    Tiedosto File(bool isLog, int32_t range, const std::vector<float>& values) const {
-        Tiedosto file;
-        file.EventCount = static_cast<int32_t>(values.size());
-        file.ChannelCount = 1;
-        file.Channels.Mitoita(1);
-        file.Channels(1).IsLog = isLog;
-        file.Channels(1).Range = range;
-        file.Data.Mitoita(file.EventCount, 1);
-        std::ranges::copy(values, file.Data.Sarake(1).begin());
-        return file;
-    }
-    double Place(bool isLog, int32_t range, float value, double scale = 10000) const {
-        return AnnaPaikka(File(isLog, range, {value}), 1, 1, scale);
-    }
-};
+using ProjectionTest = SessionTest;
 
-TEST_F(ProjectionTest, LinearAxes) {
-    EXPECT_DOUBLE_EQ(Place(false, 1024, 512), 5000);
-    EXPECT_DOUBLE_EQ(Place(false, 1024, 2048), 20000) << "no clamp at the top";
-    EXPECT_EQ(Place(false, 1024, -1), 0);
-    EXPECT_DOUBLE_EQ(Place(false, 1, 0.25F, 8), 2);
+Tiedosto File(bool isLog, int32_t range, const std::vector<float>& values) {
+    Tiedosto file;
+    file.EventCount = static_cast<int32_t>(values.size());
+    file.ChannelCount = 1;
+    file.Channels.Mitoita(1);
+    file.Channels(1) = {"", isLog, range};
+    file.Data.Mitoita(file.EventCount, 1);
+    std::ranges::copy(values, file.Data.Sarake(1).begin());
+    return file;
 }
 
-TEST_F(ProjectionTest, LogAxes) {
-    EXPECT_DOUBLE_EQ(Place(true, 10000, 100), 5000);
-    EXPECT_DOUBLE_EQ(Place(true, 10000, 10000), 10000);
-    EXPECT_DOUBLE_EQ(Place(true, 10000, 1), 1) << "1 / 10000 of the scale, not 0";
-    EXPECT_DOUBLE_EQ(Place(true, 10000, -500, 20000), 2);
-    // A decade is 48379 long and the foot lies at 62943, log10(20) times that.
-    EXPECT_EQ(Place(true, 262144, -39), 0);
-    EXPECT_EQ(Place(true, 262144, -20.5F), 0);
-    EXPECT_GT(Place(true, 262144, -19.5F), 0);
-    EXPECT_DOUBLE_EQ(Place(true, 262144, 0, 1),
-                     (std::log10(40.0) * 48379 - 62943) / (262144 - 62943));
-    EXPECT_NEAR(Place(true, 262144, 0, 1), 0.0731, 0.00005);
-    EXPECT_DOUBLE_EQ(Place(true, 262144, 9960, 1), (4 * 48379.0 - 62943) / (262144 - 62943));
-    EXPECT_DOUBLE_EQ(Place(true, 262143, 10000, 1), 4 * 48379.0 / 262143)
-        << "only 262144 is shifted";
-    EXPECT_DOUBLE_EQ(AnnaLogPaikka(9960, 262144, 100), 100 * Place(true, 262144, 9960, 1));
-    EXPECT_DOUBLE_EQ(AnnaLogPaikka(100, 10000, 100), 50);
-}
-
-TEST_F(ProjectionTest, TheBumperFoldsWhatLiesBelowOne) {
-    KaytaNegAbsJuttua = true;
-    EXPECT_DOUBLE_EQ(Place(false, 10000, -5), 6);
-    EXPECT_DOUBLE_EQ(Place(false, 10000, 0.5F), 1.5);
-    EXPECT_DOUBLE_EQ(Place(false, 10000, 1), 1);
-    EXPECT_DOUBLE_EQ(Place(true, 10000, -9), 2500);
-    EXPECT_DOUBLE_EQ(AnnaLogPaikka(-9, 10000, 10000), 1) << "ticks are not values of events";
-}
-
-TEST_F(ProjectionTest, AnAxisWithoutAScaleHasEverythingAtItsFoot) {
+TEST_F(ProjectionTest, ListedValues) {
+    struct Case {
+        bool isLog;
+        int32_t range;
+        float value;
+        double position;  // on an axis of length 10000
+        bool bumper = false;
+    };
     constexpr int32_t kLowest = std::numeric_limits<int32_t>::min();
-    for (const float value : {-3.0F, 0.0F, 2.0F, 1e30F, std::numeric_limits<float>::infinity()}) {
-        for (const int32_t range : {0, -5, kLowest}) {
-            EXPECT_EQ(Place(false, range, value), 0) << range;
-            EXPECT_EQ(Place(true, range, value), 0) << range;
-        }
-        EXPECT_EQ(Place(true, 1, value), 0);
+    const Case cases[] = {
+        {false, 1024, 512, 5000},
+        {false, 1024, 2048, 20000},  // no clamp at the top
+        {false, 1024, -1, 0},
+        {false, 1, 0.25F, 2500},
+        {true, 10000, 100, 5000},
+        {true, 10000, 10000, 10000},
+        {true, 10000, 1, 1},  // 1 / 10000 of the scale, not 0
+        {true, 10000, -500, 1},
+        // A decade is 48379 long and the foot lies at 62943, log10(20) times that.
+        {true, 262144, -39, 0},
+        {true, 262144, -20.5F, 0},
+        {true, 262144, 0, (std::log10(40.0) * 48379 - 62943) / (262144 - 62943) * 10000},
+        {true, 262144, 9960, (4 * 48379.0 - 62943) / (262144 - 62943) * 10000},
+        {true, 262143, 10000, 4 * 48379.0 / 262143 * 10000},  // only 262144 is shifted
+        // An axis without a scale has everything at its foot.
+        {false, 0, 2, 0},
+        {false, -5, -3, 0},
+        {false, kLowest, 1e30F, 0},
+        {true, 1, 2, 0},
+        {true, 0, INFINITY, 0},
+        {true, kLowest, 2, 0},
+        // The bumper folds what lies below 1.
+        {false, 10000, -5, 6, true},
+        {false, 10000, 0.5F, 1.5, true},
+        {false, 10000, 1, 1, true},
+        {true, 10000, -9, 2500, true},
+    };
+    for (const Case& c : cases) {
+        KaytaNegAbsJuttua = c.bumper;
+        EXPECT_DOUBLE_EQ(AnnaPaikka(File(c.isLog, c.range, {c.value}), 1, 1, 10000), c.position)
+            << c.value << " range " << c.range << " log " << c.isLog;
     }
-    EXPECT_EQ(AnnaLogPaikka(5, 1, 10000), 0);
+    EXPECT_DOUBLE_EQ(AnnaLogPaikka(-9, 10000, 10000), 1) << "ticks are not values of events";
+    EXPECT_DOUBLE_EQ(AnnaLogPaikka(100, 10000, 100), 50);
+    EXPECT_DOUBLE_EQ(Pyorista(2.349, false), 2.34);
+    EXPECT_DOUBLE_EQ(Pyorista(-2.341, false), -2.35);
+    EXPECT_DOUBLE_EQ(Pyorista(0.123456, true), 12.34);
 }
 
 TEST_F(ProjectionTest, ColumnsAgreeWithSingleEventsToTheLastBit) {
@@ -90,28 +87,37 @@ TEST_F(ProjectionTest, ColumnsAgreeWithSingleEventsToTheLastBit) {
     std::iota(events.begin(), events.end(), 1);
     std::ranges::shuffle(events, random);
     std::vector<double> column(events.size());
-    for (const bool bumper : {false, true}) {
-        KaytaNegAbsJuttua = bumper;
-        for (const int32_t range : {-1, 0, 1, 2, 1000, 1024, 10000, 262143, 262144, 2147483647}) {
-            for (const bool isLog : {false, true}) {
-                const Tiedosto file = File(isLog, range, values);
-                AnnaPaikat(file, events, 1, 511.5, column);
-                for (std::size_t i = 0; i < events.size(); ++i) {
-                    const double single = AnnaPaikka(file, events[i], 1, 511.5);
-                    ASSERT_EQ(std::bit_cast<uint64_t>(single), std::bit_cast<uint64_t>(column[i]))
-                        << file.Data(events[i], 1) << " range " << range << " log " << isLog;
-                    ASSERT_GE(single, 0) << file.Data(events[i], 1) << " range " << range;
-                }
+    for (const int32_t range : {-1, 0, 1, 2, 1000, 1024, 10000, 262143, 262144, 2147483647}) {
+        for (const unsigned kind : {0U, 1U, 2U, 3U}) {
+            KaytaNegAbsJuttua = kind >= 2;
+            const Tiedosto file = File(kind % 2 == 1, range, values);
+            AnnaPaikat(file, events, 1, 511.5, column);
+            for (std::size_t i = 0; i < events.size(); ++i) {
+                const double single = AnnaPaikka(file, events[i], 1, 511.5);
+                ASSERT_EQ(std::bit_cast<uint64_t>(single), std::bit_cast<uint64_t>(column[i]))
+                    << file.Data(events[i], 1) << " range " << range << " kind " << kind;
+                ASSERT_GE(single, 0) << file.Data(events[i], 1) << " range " << range;
             }
         }
     }
 }
 
-TEST_F(ProjectionTest, RoundingCutsTowardsMinusInfinity) {
-    EXPECT_DOUBLE_EQ(Pyorista(2.349, false), 2.34);
-    EXPECT_DOUBLE_EQ(Pyorista(-2.341, false), -2.35);
-    EXPECT_DOUBLE_EQ(Pyorista(0.123456, true), 12.34);
-    EXPECT_DOUBLE_EQ(Pyorista(1, true), 100);
+TEST(Logarithm, IsExactForPowersOfTenAndCloseEverywhere) {
+    double power = 1;  // exact up to 1e22
+    for (int exponent = 0; exponent <= 22; ++exponent, power *= 10) {
+        EXPECT_EQ(Kymmenlogaritmi(power), exponent);
+    }
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 100000; ++i) {
+        // Every other number lies near 1, where the logarithm is small.
+        const double x = i % 2 == 0 ? std::ldexp(1 + static_cast<double>(random()) * 0x1p-64,
+                                                 static_cast<int>(random() % 2000) - 1000)
+                                    : 0.9 + static_cast<double>(random()) * 0x1p-64 / 5;
+        const long double exact = std::log10(static_cast<long double>(x));
+        const double nearest = std::fabs(static_cast<double>(exact));
+        const double unit = std::nextafter(nearest, INFINITY) - nearest;
+        ASSERT_LE(std::fabs(Kymmenlogaritmi(x) - exact), unit) << x;
+    }
 }
 
 }  // namespace

@@ -13,13 +13,9 @@ FILES = {  # file: channels to show
     "facscan-fcs2-int16-be/Data001.fcs": (1, 3),
     "partec-fcs2-int16-le/Partec.fcs": (1, 4),
     "eclipse-int32-le/iCyt.fcs": (1, 18),
-    "macsquant-float-le/CFP_Well_A4.fcs": (4, 16),
     "lsrii-spill-pair/fake_large_fcs.fcs": (7, 9, 10),
     "aria-index-sort/index_sorted_example.fcs": (8, 10),
-    "qa-int16-le-padded-keys/PU87@2+B200.fcs": (1, 3),
     "odd/AriaFile1.fcs": (4, 12),
-    "odd/System II listmode with extra info in bits D10-D15.LMD": (1, 3),
-    "odd/Data003.fcs": (1, 4),
 }
 OLD_SCALE = ("FACScan", "FACSCalibur")
 

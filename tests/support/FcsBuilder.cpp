@@ -1,27 +1,15 @@
 #include "tests/support/FcsBuilder.h"
 
-#include <algorithm>
-#include <bit>
+#include "core/Text.h"
 
 namespace tessarin {
-namespace {
-
-constexpr std::size_t kHeaderBytes = 58;
-
-std::string EightCharacters(std::string text) {
-    text.insert(0, text.size() < 8 ? 8 - text.size() : 0, ' ');
-    return text.substr(0, 8);
-}
-
-}  // namespace
 
 FcsBuilder::FcsBuilder(const std::string& type, int bits, const std::string& order, int channels,
                        int events)
     : bytes_(bits / 8), littleEndian_(order.starts_with("1,2")) {
-    keywords = {{"$MODE", "L"},        {"$DATATYPE", type},
-                {"$BYTEORD", order},   {"$PAR", std::to_string(channels)},
-                {"$NEXTDATA", "0"},    {"$TOT", std::to_string(events)},
-                {"$CYT", "Cytometer"}, {"SAMPLE ID", "tube"}};
+    Change("$MODE=L;$NEXTDATA=0;$CYT=Cytometer;SAMPLE ID=tube");
+    Set("$DATATYPE", type).Set("$BYTEORD", order);
+    Set("$PAR", std::to_string(channels)).Set("$TOT", std::to_string(events));
     for (int n = 1; n <= channels; ++n) {
         const std::string p = "$P" + std::to_string(n);
         Set(p + "N", "C" + std::to_string(n)).Set(p + "R", "1024");
@@ -29,24 +17,21 @@ FcsBuilder::FcsBuilder(const std::string& type, int bits, const std::string& ord
     }
 }
 
-FcsBuilder& FcsBuilder::Set(const std::string& keyword, const std::string& value) {
-    const auto found = std::find_if(keywords.begin(), keywords.end(),
-                                    [&](const auto& pair) { return pair.first == keyword; });
-    if (found != keywords.end()) {
-        found->second = value;
-    } else {
-        keywords.emplace_back(keyword, value);
+FcsBuilder& FcsBuilder::Set(const std::string& name, const std::string& value) {
+    (name[0] >= 'a' ? header_ : keywords_)[name] = value;
+    return *this;
+}
+
+FcsBuilder& FcsBuilder::Change(std::string_view changes) {
+    for (const std::string_view change : Split(changes, ';')) {
+        const std::string name(change.substr(0, change.find('=')));
+        if (name.size() < change.size()) {
+            Set(name, std::string(change.substr(name.size() + 1)));
+        } else {
+            keywords_.erase(name);
+        }
     }
     return *this;
-}
-
-FcsBuilder& FcsBuilder::Remove(const std::string& keyword) {
-    std::erase_if(keywords, [&](const auto& pair) { return pair.first == keyword; });
-    return *this;
-}
-
-FcsBuilder& FcsBuilder::AddFloat(float value) {
-    return AddInteger(std::bit_cast<uint32_t>(value));
 }
 
 FcsBuilder& FcsBuilder::AddInteger(uint32_t value) {
@@ -59,17 +44,20 @@ FcsBuilder& FcsBuilder::AddInteger(uint32_t value) {
 
 std::string FcsBuilder::Bytes() const {
     std::string text(1, delimiter);
-    for (const auto& [keyword, value] : keywords) {
+    for (const auto& [keyword, value] : keywords_) {
         text += keyword + delimiter + value + delimiter;
     }
-    const std::size_t begin = kHeaderBytes + text.size();
-    std::string out = version + "    ";
-    out += EightCharacters(textBegin.value_or(std::to_string(kHeaderBytes)));
-    out += EightCharacters(textEnd.value_or(std::to_string(begin - 1)));
-    out += EightCharacters(dataBegin.value_or(std::to_string(begin)));
-    out += EightCharacters(dataEnd.value_or(std::to_string(begin + data.size() - 1)));
-    out.resize(kHeaderBytes, ' ');
-    return out + text + data;
+    std::string header;
+    const auto add = [&](const std::string& name, std::size_t length, const std::string& right) {
+        const auto found = header_.find(name);
+        header += found == header_.end() ? right : found->second;
+        header.resize(length, ' ');
+    };
+    add("version", 10, "FCS3.0");
+    add("text begin", 18, "58");
+    add("text end", 26, std::to_string(57 + text.size()));
+    add("data begin", 58, std::to_string(58 + text.size()));
+    return header + text + data;
 }
 
 }  // namespace tessarin

@@ -2,39 +2,36 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <map>
 #include <string>
-#include <utility>
-#include <vector>
+#include <string_view>
 
 namespace tessarin {
 
-/// The parts of a file; all can be changed before `Bytes` puts them together.
 struct FcsBuilder {
-    /// A file whose keywords say so, with $PnN "C1", "C2"..., $PnR 1024 and $PnE "0,0", and
-    /// without data.
+    /// A file without data whose keywords say so, with $PnN "C1", "C2"..., $PnR 1024, $PnE "0,0".
     FcsBuilder(const std::string& type, int bits, const std::string& order, int channels,
                int events);
 
-    /// Replaces a keyword's value, or adds it behind the others.
-    FcsBuilder& Set(const std::string& keyword, const std::string& value);
-    FcsBuilder& Remove(const std::string& keyword);
-    FcsBuilder& AddFloat(float value);
-    /// The lowest `bits` bits of `value`.
+    /// Sets a keyword, or a part of the header: "version", "text begin", "text end", "data begin".
+    /// Parts that are not set are right.
+    FcsBuilder& Set(const std::string& name, const std::string& value);
+    /// Makes changes such as "$TOT=3;$P1E=4,0;text end=10;$PAR"; the last takes a keyword out.
+    FcsBuilder& Change(std::string_view changes);
+    /// Adds the lowest `bits` bits of `value` to the data.
     FcsBuilder& AddInteger(uint32_t value);
 
-    /// Header, TEXT and data, without gaps. Offsets that are not given are the right ones.
+    /// Header, TEXT and data, without gaps.
     std::string Bytes() const;
 
-    std::string version = "FCS3.0";
     char delimiter = '|';
-    std::vector<std::pair<std::string, std::string>> keywords;
     std::string data;
-    std::optional<std::string> textBegin, textEnd, dataBegin, dataEnd;  // each cut to 8 characters
 
   private:
     int bytes_;
     bool littleEndian_;
+    std::map<std::string, std::string> keywords_;
+    std::map<std::string, std::string> header_;
 };
 
 }  // namespace tessarin

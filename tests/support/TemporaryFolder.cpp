@@ -19,19 +19,9 @@ TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-std::string TemporaryFolder::Path(std::string_view name) const {
-    return path_ + "/" + std::string(name);
-}
-
 std::string TemporaryFolder::Write(std::string_view name, std::string_view bytes) const {
-    std::string path = Path(name);
-    std::ofstream out(path, std::ios::binary);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    out.close();
-    if (!out) {
-        throw std::runtime_error("no test file could be written");
-    }
-    return path;
+    std::ofstream(Path(name), std::ios::binary) << bytes;
+    return Path(name);
 }
 
 }  // namespace tessarin

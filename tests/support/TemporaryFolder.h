@@ -15,8 +15,7 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     /// The place of a file in it; ends in the separator for an empty name.
-    std::string Path(std::string_view name = "") const;
-
+    std::string Path(std::string_view name = "") const { return path_ + "/" + std::string(name); }
     /// Writes a file, replacing one of that name, and returns its place.
     std::string Write(std::string_view name, std::string_view bytes) const;
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Ikkuna.h"
 #include "mainwindow/CopySource.h"
@@ -56,7 +57,8 @@ class AnalysisWindow : public WindowObject, public FormEvents, public CopySource
     virtual bool AvaaTaiSuljeStatistics(std::string_view /*what*/) { return false; }
     virtual std::optional<bool> OnkoStatistiikkaKaytossa() const { return std::nullopt; }
     /// One number of the statistics last computed: area "ul", "ur", "ll", "lr" or a row number,
-    /// kind "number", "vis", "xmean", "ymean", "xgeomean" or "ygeomean". Nothing for other words.
+    /// kind "number", "vis", "xmean", "ymean", "xgeomean", "ygeomean" or "cv". Nothing for other
+    /// words.
     virtual std::optional<double> AnnaStatistiikka(std::string_view /*area*/,
                                                    std::string_view /*kind*/) const {
         return std::nullopt;
@@ -78,6 +80,25 @@ class AnalysisWindow : public WindowObject, public FormEvents, public CopySource
     virtual std::optional<std::string> AnnaKvadrantinKoordinaatit(std::string_view /*axis*/) const {
         return std::nullopt;
     }
+    // `Laheta` means send: what windows that are made of histograms take from one.
+    /// The bins as last drawn, from bin 0; empty before that.
+    virtual std::optional<std::vector<double>> LahetaHistogram() const { return std::nullopt; }
+    /// Range, scale and name of the channel; 0, False and empty without a file.
+    virtual std::optional<int32_t> LahetaMax() const { return std::nullopt; }
+    virtual std::optional<bool> LahetaLog() const { return std::nullopt; }
+    virtual std::optional<std::string> LahetaNimi() const { return std::nullopt; }
+    virtual std::optional<int16_t> LahetaKanavaID() const { return std::nullopt; }
+    /// Top of the y scale as a count; 0 for automatic.
+    virtual std::optional<int32_t> LahetaScale() const { return std::nullopt; }
+    /// Of the highest bin within a marker: "paikka" its place on the grid, "abskorkeus" its count,
+    /// "suhtkorkeus" that in ten-thousandths of the y scale. 0 for another word.
+    virtual std::optional<int32_t> AnnaHistonKorkeinKohta(std::string_view /*mode*/,
+                                                          int16_t /*marker*/) const {
+        return std::nullopt;
+    }
+    /// Height of the bin at grid place `x` in ten-thousandths of the y scale, 0 outside the bins;
+    /// `x` becomes the bin.
+    virtual std::optional<int32_t> AnnaHistonKorkeus(int32_t& /*x*/) const { return std::nullopt; }
 };
 
 }  // namespace tessarin

@@ -41,6 +41,15 @@ double TextWidth(std::string_view text) {
     return static_cast<double>(Length(text)) * kMerkinLeveys;
 }
 
+// Beside the y axis, from `y` upwards.
+void PrintUpwards(Kuva& surface, const PlotArea& area, double y, std::string_view text) {
+    constexpr int kRotatedHeight = 12;
+    surface.SetCurrent(area.Left() - kRotatedHeight - TikinPituus, y);
+    surface.AsetaKierrettyFontti();
+    surface.Print(text);
+    surface.PalautaFontti();
+}
+
 }  // namespace
 
 std::vector<double> TikkienPaikat(const Kanava& channel, double length) {
@@ -75,12 +84,11 @@ void PiirraXOtsikko(Kuva& surface, const PlotArea& area, std::string_view name) 
 }
 
 void PiirraYOtsikko(Kuva& surface, const PlotArea& area, std::string_view name) {
-    constexpr int kRotatedHeight = 12;
-    surface.SetCurrent(area.Left() - kRotatedHeight - TikinPituus,
-                       area.H() / 2 + TextWidth(name) / 2);
-    surface.AsetaKierrettyFontti();
-    surface.Print(name);
-    surface.PalautaFontti();
+    PrintUpwards(surface, area, area.H() / 2 + TextWidth(name) / 2, name);
+}
+
+void PiirraYSkaala(Kuva& surface, const PlotArea& area, std::string_view text) {
+    PrintUpwards(surface, area, area.Top() + TextWidth(text), text);
 }
 
 }  // namespace tessarin

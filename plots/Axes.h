@@ -23,5 +23,7 @@ void PiirraYTikit(Kuva& surface, const PlotArea& area, const Kanava& channel, Rg
 void PiirraXOtsikko(Kuva& surface, const PlotArea& area, std::string_view name);
 /// Channel name centred along the y axis, running upwards.
 void PiirraYOtsikko(Kuva& surface, const PlotArea& area, std::string_view name);
+/// The top of a count axis at its upper end, running upwards. `text` starts with a blank.
+void PiirraYSkaala(Kuva& surface, const PlotArea& area, std::string_view text);
 
 }  // namespace tessarin

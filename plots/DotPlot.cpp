@@ -2,106 +2,18 @@
 
 #include <algorithm>
 
-#include "core/BusyPointer.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
-#include "core/RegionMuuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
-#include "mainwindow/WindowList.h"
 #include "plots/Axes.h"
+#include "plots/PolygonMembership.h"
+#include "plots/RegionOutlines.h"
 
 namespace tessarin {
-namespace {
-
-constexpr int32_t kFirstSize = 4000;  // twips of a new window when no size is remembered
-
-std::string Title(int16_t id, const std::string& file) {
-    return "(" + std::to_string(id) + "): Dot Plot - " + file;
-}
-
-}  // namespace
 
 DotPlot::DotPlot(PaaIkkuna& main)
-    : main_(main),
-      form_(main.Services().mainForm.MakeChild(*this)),
-      tekstit_(CaptionsAtStart()),
-      tilasto_(main, *this) {}
+    : PlotWindow(main, {"Dot Plot", "region", "BMP files (*.BMP)|*.bmp", Items(), OletusKoko}) {}
 
-DotPlot::~DotPlot() {
-    main_.UnohdaKopioitava(this);
-}
-
-const Tiedosto* DotPlot::File() const {
-    const int16_t slot = ID == 0 ? int16_t{0} : Ikkunat(ID).FileIndex;
-    return Tiedostot.Holds(slot) && Tiedostot(slot).Valid ? &Tiedostot(slot) : nullptr;
-}
-
-void DotPlot::Alusta(int16_t id) {
-    ID = id;
-    Otsikko = Title(ID, "No File");
-    Ikkunat(ID).Selectable = true;
-    Ikkunat(ID).Selected = true;
-    PaivitaKehysOtsikko(ID);
-    AsetaKoko();
-    if (CurrentFile != 0 && Tiedostot(CurrentFile).Valid) {
-        Ikkunat(ID).FileIndex = CurrentFile;
-        LatauksenJalkeen();
-        Piirra();
-    }
-}
-
-void DotPlot::AsetaKoko() {
-    const bool remembered = OletusKoko.Leveys != 0 || OletusKoko.Korkeus != 0;
-    form_->SetOuterSize({remembered ? OletusKoko.Leveys : kFirstSize},
-                        {remembered ? OletusKoko.Korkeus : kFirstSize});
-    Surface().SetPlace(0, 0);
-    Surface().SetSize(form_->ScaleWidth(), form_->ScaleHeight());
-    tausta_.Paivita();
-    Surface().SetBackColor(tausta_.BackColor());
-    Surface().Cls();
-    ready_ = true;
-}
-
-void DotPlot::LatauksenJalkeen() {
-    const Tiedosto* file = File();
-    if (Loading || file == nullptr) {
-        return;
-    }
-    nopea_.Sovita(file->EventCount);
-    SetFastDrawCaption();
-    if (FileInfoView* info = main_.Kumppanit().fileInfo) {
-        info->AsetaLista(ID);
-    }
-}
-
-bool DotPlot::IsBeingResized() const {
-    return KokoaMuutetaan == ID;
-}
-
-void DotPlot::Piirra() {
-    const Tiedosto* file = File();
-    if (file == nullptr || Loading) {
-        return;
-    }
-    const BusyPointer busy;
-    // A redraw is of the picture below whatever a gesture draws above it.
-    Surface().SetAutoRedraw(true);
-    const PlotArea area(Surface());
-    ReplaceMissingChannels(*file);
-    UpdateTitle(*file);
-    ClearSurface(*file, area);
-    DrawAxes(*file, area);
-    DropUndefinedGate();
-    DrawEvents(*file, area);
-    DrawRegions(area);
-    DrawTitles(*file, area);
-    if (kvadrantti_.KvadranttiKaytossa && !kvadrantti_.KvadranttiLiikkuu) {
-        kvadrantti_.Piirra(Surface(), area, tausta_.Line());
-    }
-    FinishDrawing();
-}
-
-// A channel left over from a file with more of them falls back to one that is there.
 void DotPlot::ReplaceMissingChannels(const Tiedosto& file) {
     const int16_t channels = file.ChannelCount;
     if (KanavaX < 1 || KanavaX > channels) {
@@ -112,19 +24,15 @@ void DotPlot::ReplaceMissingChannels(const Tiedosto& file) {
     }
 }
 
-void DotPlot::UpdateTitle(const Tiedosto& file) {
-    Otsikko = Title(ID, file.FileName);
-    PaivitaKehysOtsikko(ID);
-}
-
-void DotPlot::ClearSurface(const Tiedosto& file, const PlotArea& area) {
-    tausta_.Paivita();
-    Surface().SetBackColor(tausta_.BackColor());
-    Surface().SetForeColor(tausta_.ForeColor());
-    Surface().Cls();
-    if (Previewissa && main_.OnkoEsikatselu()) {
-        Surface().SetCurrent(area.Left(), 1);
-        Surface().Print(file.FileName);
+void DotPlot::DrawPlot(const Tiedosto& file, const PlotArea& area) {
+    DrawAxes(file, area);
+    DrawEvents(file, area);
+    DrawRegions(area);
+    DrawFastMark(area);
+    PiirraXOtsikko(Surface(), area, file.Channels(KanavaX).Name);
+    PiirraYOtsikko(Surface(), area, file.Channels(KanavaY).Name);
+    if (kvadrantti_.KvadranttiKaytossa && !kvadrantti_.KvadranttiLiikkuu) {
+        kvadrantti_.Piirra(Surface(), area, tausta_.Line());
     }
 }
 
@@ -132,12 +40,6 @@ void DotPlot::DrawAxes(const Tiedosto& file, const PlotArea& area) {
     PiirraAkselit(Surface(), area, tausta_.Line());
     PiirraXTikit(Surface(), area, file.Channels(KanavaX), tausta_.Line());
     PiirraYTikit(Surface(), area, file.Channels(KanavaY), tausta_.Line());
-}
-
-void DotPlot::DropUndefinedGate() {
-    if (!Populaatiot.Holds(NaytettavaPopulaatio) || !Populaatiot(NaytettavaPopulaatio).Defined) {
-        NaytettavaPopulaatio = 0;
-    }
 }
 
 void DotPlot::DrawEvents(const Tiedosto& file, const PlotArea& area) {
@@ -158,41 +60,6 @@ void DotPlot::DrawRegions(const PlotArea& area) {
     }
 }
 
-void DotPlot::DrawTitles(const Tiedosto& file, const PlotArea& area) {
-    if (nopea_.FastDraw) {
-        PiirraNopeanMerkki(Surface(), area);
-    }
-    PiirraXOtsikko(Surface(), area, file.Channels(KanavaX).Name);
-    PiirraYOtsikko(Surface(), area, file.Channels(KanavaY).Name);
-}
-
-void DotPlot::FinishDrawing() {
-    Surface().SetAutoRedraw(!ele_.OnkoPaalla());
-    if (!EleKaynnissa && !IsBeingResized()) {
-        PaivitaStatistiikka();
-        main_.TalletaNakyma("Autosave");
-    }
-    if (Previewissa && main_.OnkoEsikatselu()) {
-        main_.Kumppanit().preview->Piirra();
-    }
-}
-
-void DotPlot::CopyToClipboard() {
-    main_.Services().clipboard.SetImage(Surface().Image());
-}
-
-void DotPlot::UnloadWindow() {
-    ele_.Unohda();
-    tilasto_.AvaaTaiSulje("close");
-    VapautaIkkuna(ID);
-}
-
-bool DotPlot::NaytaPopulaatio(int16_t population) {
-    NaytettavaPopulaatio = population;
-    Piirra();
-    return true;
-}
-
 std::optional<std::string> DotPlot::AnnaKanava(std::string_view axis) const {
     if (axis == "x" || axis == "y") {
         return std::to_string(axis == "x" ? KanavaX : KanavaY);
@@ -205,20 +72,6 @@ bool DotPlot::AsetaKanava(std::string_view axis, int16_t channel) {
         (axis == "x" ? KanavaX : KanavaY) = channel;
         Piirra();
     }
-    return true;
-}
-
-bool DotPlot::AsetaPiirtoMoodi(std::string_view mode) {
-    const bool fast = mode == "fast";
-    if ((fast || mode == "full") && fast != nopea_.FastDraw) {
-        nopea_.FastDraw = fast;
-        Piirra();
-    }
-    return true;
-}
-
-bool DotPlot::AsetaStatPreviewissa(bool shown) {
-    StatPreviewissa = shown;
     return true;
 }
 
@@ -239,40 +92,52 @@ std::optional<std::string> DotPlot::AnnaKvadrantinKoordinaatit(std::string_view 
     return (value < 0 ? "" : " ") + std::to_string(value);
 }
 
-void DotPlot::Form_Activate() {
-    AktivoiIkkuna(main_, ID);
+// The mouse: the quadrant cross comes before the regions.
+
+int16_t DotPlot::AxisAt(const PlotArea& area, PixelPoint mouse) const {
+    if (mouse.x > 0 && mouse.x < area.Left() && mouse.y > area.Top() && mouse.y < area.Bottom()) {
+        return 2;
+    }
+    return IsUnderXAxis(area, mouse) ? 1 : 0;
 }
 
-void DotPlot::Form_Resize() {
-    if (!ready_) {
+void DotPlot::PressLeft(PixelPoint mouse) {
+    if (!kvadrantti_.Osuu(PlotArea(Surface()), mouse)) {
+        PlotWindow::PressLeft(mouse);
         return;
     }
-    const int width = form_->ScaleWidth();
-    const int height = form_->ScaleHeight();
-    const PlotArea before(Surface());
-    Surface().SetSize(width > 0 ? width : Surface().Width(),
-                      height > 0 ? height : Surface().Height());
-    ele_.KokoMuuttui(before);
-    if (form_->HasOwnSize()) {
-        OletusKoko = {form_->OuterWidth().count, form_->OuterHeight().count};
+    kvadrantti_.KvadranttiLiikkuu = true;
+    EleKaynnissa = true;
+    Piirra();  // without the cross, which is drawn above from now on
+    Kvadrantti::PiirraLiikkuva(Surface(), PlotArea(Surface()), mouse, tausta_.Line());
+}
+
+void DotPlot::Kuva_MouseMove(const MouseEvent& mouse) {
+    PlotWindow::Kuva_MouseMove(mouse);
+    if (kvadrantti_.KvadranttiLiikkuu) {
+        Kvadrantti::PiirraLiikkuva(Surface(), PlotArea(Surface()), {mouse.x, mouse.y},
+                                   tausta_.Line());
     }
-    KokoaMuutetaan = ID;
+}
+
+void DotPlot::Kuva_MouseUp(const MouseEvent& mouse) {
+    if (!kvadrantti_.KvadranttiLiikkuu) {
+        PlotWindow::Kuva_MouseUp(mouse);
+        return;
+    }
+    Surface().SetAutoRedraw(true);
+    kvadrantti_.Pudota(PlotArea(Surface()), {mouse.x, mouse.y});
+    EleKaynnissa = false;
     Piirra();
 }
 
-void DotPlot::Form_KeyDown(int keyCode) {
-    if (keyCode == kKeyShift) {
-        ShiftPainettu = true;
-    }
+void DotPlot::Kuva_MouseLost() {
+    kvadrantti_.KvadranttiLiikkuu = false;
+    PlotWindow::Kuva_MouseLost();
 }
 
-void DotPlot::Form_KeyUp(int /*keyCode*/) {
-    ShiftPainettu = false;
-}
-
-void DotPlot::Form_QueryUnload() {
-    const auto alive = Ikkunat(ID).Window;  // until this call returns
-    UnloadWindow();
+void DotPlot::RegionMuuttui(int16_t slot) {
+    TarkistaMonikulmio(slot);
 }
 
 }  // namespace tessarin

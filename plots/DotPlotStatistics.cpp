@@ -1,8 +1,11 @@
 // The statistics of a dot plot: computing, the table, and what tools read of them.
+#include <array>
+#include <vector>
+
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "plots/DotPlot.h"
-#include "plots/DotPlotTable.h"
+#include "plots/StatisticsTable.h"
 
 namespace tessarin {
 namespace {
@@ -26,7 +29,7 @@ const TilastoRivi* Area(const Tilastot& tilastot, std::string_view area) {
                : nullptr;
 }
 
-std::optional<double> Kind(const TilastoRivi& row, std::string_view kind) {
+std::optional<double> Value(const TilastoRivi& row, std::string_view kind) {
     if (kind == "number") {
         return row.Lukumaara;
     }
@@ -48,60 +51,53 @@ std::optional<double> Kind(const TilastoRivi& row, std::string_view kind) {
     return std::nullopt;
 }
 
+constexpr std::array<std::string_view, 6> kHeads = {"Number", "% of vis",  "X mean",
+                                                    "Y mean", "X geomean", "Y geomean"};
+
+std::vector<std::string> Values(const TilastoRivi& row) {
+    return {std::to_string(row.Lukumaara), TaulukonProsentti(row.Osuus), TaulukonLuku(row.XKeski),
+            TaulukonLuku(row.YKeski),      TaulukonLuku(row.XGeo),       TaulukonLuku(row.YGeo)};
+}
+
 }  // namespace
 
 PlotData DotPlot::UsedData(const Tiedosto& file, int32_t step) const {
     return {file, KanavaX, KanavaY, NaytettavaPopulaatio, step};
 }
 
-void DotPlot::PaivitaStatistiikka() {
-    const Tiedosto* file = File();
-    Statistics* window = tilasto_.Ikkuna();
-    if (file == nullptr || window == nullptr) {
-        return;
-    }
-    const PlotData data = UsedData(*file, nopea_.PiirtoVali);
+void DotPlot::ComputeStatistics(const Tiedosto& file) {
+    const PlotData data = UsedData(file, nopea_.PiirtoVali);
     LaskeTilastot(data, tilastot_);
     if (kvadrantti_.KvadranttiKaytossa) {
         LaskeKvadrantit(data, kvadrantti_, tilastot_);
     }
-    window->Nayta("(" + std::to_string(ID) + ") Statistics: " + file->FileName,
-                  Table(*file, false));
 }
 
-GridTable DotPlot::Table(const Tiedosto& file, bool copy) const {
-    return DotPlotTaulukko(
-        *tilasto_.Ikkuna(), file, tilastot_,
-        {KanavaX, KanavaY, nopea_.FastDraw, kvadrantti_.KvadranttiKaytossa, copy});
-}
-
-GridTable DotPlot::TilastoKopio() {
-    PaivitaStatistiikka();
-    const Tiedosto* file = File();
-    return file == nullptr ? GridTable{} : Table(*file, true);
+GridTable DotPlot::TableOf(const Tiedosto& file, bool copy) const {
+    StatisticsTable table(*tilasto_.Ikkuna(), kHeads);
+    table.AddHeaders(file, copy);
+    table.AddColumnHeads(nopea_.FastDraw ? "FAST DRAW" : "");
+    table.AddValues("Visible", Values(tilastot_.Rivit[0]));
+    for (int16_t slot = 1; slot <= kPopulationSlots; ++slot) {
+        if (OnkoTilastoRivi(slot, KanavaX, KanavaY)) {
+            table.AddValues(Populaatiot(slot).Name,
+                            Values(tilastot_.Rivit[static_cast<std::size_t>(slot)]));
+        }
+    }
+    if (kvadrantti_.KvadranttiKaytossa) {
+        table.AddEmptyRow();
+        table.AddValues("Upper Left", Values(tilastot_.KvadranttiYV));
+        table.AddValues("Upper Right", Values(tilastot_.KvadranttiYO));
+        table.AddValues("Lower Left", Values(tilastot_.KvadranttiAV));
+        table.AddValues("Lower Right", Values(tilastot_.KvadranttiAO));
+    }
+    return table.Take();
 }
 
 std::optional<double> DotPlot::AnnaStatistiikka(std::string_view area,
                                                 std::string_view kind) const {
     const TilastoRivi* row = Area(tilastot_, area);
-    return row == nullptr ? std::nullopt : Kind(*row, kind);
-}
-
-std::optional<std::string> DotPlot::AnnaKokoStatistiikka(std::string_view format) const {
-    const Statistics* window = tilasto_.Ikkuna();
-    return window == nullptr ? "" : window->AnnaKokoStatistiikka(format);
-}
-
-bool DotPlot::LiikutaStatistiikkaLaatikkoa(std::string_view axis, int32_t place) {
-    if (Statistics* window = tilasto_.Ikkuna()) {
-        GridForm& form = window->Lomake();
-        if (axis == "x") {
-            form.SetPlace({place}, form.Top());
-        } else if (axis == "y") {
-            form.SetPlace(form.Left(), {place});
-        }
-    }
-    return true;
+    return row == nullptr ? std::nullopt : Value(*row, kind);
 }
 
 }  // namespace tessarin

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,9 +13,8 @@ namespace tessarin {
 /// `PopupTekstit` means pop-up texts. Items count from 1; the caption "-" is a separator.
 class PopupTekstit {
   public:
-    explicit PopupTekstit(std::span<const std::string_view> captions)
-        : captions_(captions.begin(), captions.end()) {}
-
+    /// Adds the next item.
+    void Lisaa(std::string_view caption) { captions_.emplace_back(caption); }
     /// REQUIRES: item is 1 to the number of captions.
     void Aseta(int item, std::string_view caption) { captions_[Place(item)] = caption; }
     const std::string& operator()(int item) const { return captions_[Place(item)]; }

@@ -1,22 +1,15 @@
 #include "plots/RegionOutlines.h"
 
 #include <algorithm>
-#include <vector>
 
-#include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/RegionMuuttujat.h"
-#include "core/Text.h"
 
 namespace tessarin {
 namespace {
 
 int CornerCount(const Populaatio& polygon) {
     return std::clamp<int>(polygon.Corners, 0, kMaxCorners);
-}
-
-bool IsInHand(int16_t slot) {
-    return slot == MuokattavaRegion || slot == SiirrettavaRegion;
 }
 
 // The base lies half the name's width and 4 off the middle of the corners. Those are taken as
@@ -35,13 +28,6 @@ void UpdateTitleBase(Populaatio& polygon) {
 
 }  // namespace
 
-bool OnkoNakyva(const PolygonView& view, int16_t slot) {
-    const Populaatio& polygon = Populaatiot(slot);
-    return polygon.Defined && polygon.Type == "Polygon" && polygon.AxisX == view.KanavaX &&
-           polygon.AxisY == view.KanavaY &&
-           (!view.VainTaallaLuodut || polygon.Created == view.window);
-}
-
 std::vector<PixelPoint> PikseliKulmat(const PlotArea& area, const Populaatio& polygon) {
     std::vector<PixelPoint> corners;
     for (std::size_t i = 1; i <= static_cast<std::size_t>(CornerCount(polygon)); ++i) {
@@ -49,10 +35,6 @@ std::vector<PixelPoint> PikseliKulmat(const PlotArea& area, const Populaatio& po
             area.ToPixel({static_cast<double>(polygon.X[i]), static_cast<double>(polygon.Y[i])}));
     }
     return corners;
-}
-
-double NimenPuolileveys(const Populaatio& polygon) {
-    return static_cast<double>(Length(polygon.Name)) * kMerkinLeveys / 2;
 }
 
 void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb color) {
@@ -63,33 +45,19 @@ void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb co
     }
 }
 
-void PiirraAluerajat(Kuva& surface, const PlotArea& area, const PolygonView& view, Rgb color) {
-    for (int16_t slot = 1; slot <= MaxPopulations; ++slot) {
-        if (OnkoNakyva(view, slot) && !IsInHand(slot)) {
-            PiirraMonikulmio(surface, PikseliKulmat(area, Populaatiot(slot)), color);
-        }
-    }
+void PiirraAluerajat(Kuva& surface, const PlotArea& area, const RegionView& view, Rgb color) {
+    KayRegionit(view, [&](const Populaatio& polygon, int16_t /*slot*/) {
+        PiirraMonikulmio(surface, PikseliKulmat(area, polygon), color);
+    });
 }
 
-void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const PolygonView& view) {
-    for (int16_t slot = 1; slot <= MaxPopulations; ++slot) {
-        if (!OnkoNakyva(view, slot) || IsInHand(slot) || slot == SiirrettavaOtsikko) {
-            continue;
+void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view) {
+    KayRegionit(view, [&](Populaatio& polygon, int16_t slot) {
+        if (slot != SiirrettavaOtsikko) {
+            UpdateTitleBase(polygon);
+            PiirraNimi(surface, area, polygon, kPolygonName);
         }
-        Populaatio& polygon = Populaatiot(slot);
-        UpdateTitleBase(polygon);
-        const PixelPoint place = NimenPaikka(area, polygon);
-        surface.SetCurrent(place.x, place.y);
-        surface.Print(polygon.Name);
-    }
-}
-
-PixelPoint NimenPaikka(const PlotArea& area, const Populaatio& polygon) {
-    constexpr double kAbove = 4;
-    const PixelPoint middle =
-        area.ToPixel({static_cast<double>(polygon.TitleBaseX) + polygon.TitleX,
-                      static_cast<double>(polygon.TitleBaseY) + polygon.TitleY});
-    return {middle.x - NimenPuolileveys(polygon), middle.y - kAbove};
+    });
 }
 
 }  // namespace tessarin

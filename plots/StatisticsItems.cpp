@@ -23,6 +23,9 @@ std::vector<TilastoValinta> TilastoValinnat(std::string_view type) {
     if (type == "DotPlot") {
         items = {Column("Number"), Column("% of Vis"), Column("XMean"),
                  Column("YMean"),  Column("XGeoMean"), Column("YGeoMean")};
+    } else if (type == "Histogram") {
+        items = {Column("Number"), Column("% of vis"), Column("XMean"), Column("XGeoMean"),
+                 Column("CV")};
     }
     if (!items.empty()) {
         AppendCommon(items);

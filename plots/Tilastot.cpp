@@ -4,6 +4,7 @@
 
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
+#include "plots/StatisticsRows.h"
 
 namespace tessarin {
 namespace {
@@ -52,16 +53,6 @@ void Finish(TilastoRivi& row) {
     }
 }
 
-std::vector<int16_t> RowSlots(const PlotData& data) {
-    std::vector<int16_t> slots;
-    for (int16_t slot = 1; slot <= kPopulationSlots; ++slot) {
-        if (OnkoTilastoRivi(slot, data.KanavaX, data.KanavaY)) {
-            slots.push_back(slot);
-        }
-    }
-    return slots;
-}
-
 TilastoRivi& Quadrant(Tilastot& tilastot, bool left, bool upper) {
     if (upper) {
         return left ? tilastot.KvadranttiYV : tilastot.KvadranttiYO;
@@ -86,36 +77,23 @@ bool OnkoTilastoRivi(int16_t slot, int16_t kanavaX, int16_t kanavaY) {
 }
 
 void LaskeTilastot(const PlotData& data, Tilastot& tilastot) {
-    const std::vector<int16_t> slots = RowSlots(data);
-    TilastoRivi& all = tilastot.Rivit[0];
-    all = {};
+    const auto slots = TilastoRivit(
+        [&](int16_t slot) { return OnkoTilastoRivi(slot, data.KanavaX, data.KanavaY); });
+    std::vector<TilastoRivi>& rows = tilastot.Rivit;
+    rows[0] = {};
     for (const int16_t slot : slots) {
-        tilastot.Rivit[static_cast<std::size_t>(slot)] = {};
+        rows[static_cast<std::size_t>(slot)] = {};
     }
     ValueBlock block;
-    KaytetytTapahtumat used(data.file, data.gate, data.PiirtoVali);
-    for (auto events = used.Next(); !events.empty(); events = used.Next()) {
-        block.Take(data, events);
-        for (std::size_t i = 0; i < events.size(); ++i) {
-            block.AddTo(all, i);
-        }
-        for (const int16_t slot : slots) {
-            const auto members = data.file.Membership.Sarake(slot);
-            TilastoRivi& row = tilastot.Rivit[static_cast<std::size_t>(slot)];
-            for (std::size_t i = 0; i < events.size(); ++i) {
-                if (members[static_cast<std::size_t>(events[i]) - 1] == 1) {
-                    block.AddTo(row, i);
-                }
-            }
-        }
-    }
-    Finish(all);
-    all.Osuus = 1;
+    KayRivit(
+        data.file, {data.file, data.gate, data.PiirtoVali}, slots,
+        [&](std::span<const int32_t> events) { block.Take(data, events); },
+        [&](int16_t slot, std::size_t i) { block.AddTo(rows[static_cast<std::size_t>(slot)], i); });
+    Finish(rows[0]);
     for (const int16_t slot : slots) {
-        TilastoRivi& row = tilastot.Rivit[static_cast<std::size_t>(slot)];
-        Finish(row);
-        row.Osuus = row.Lukumaara == 0 ? 0 : static_cast<double>(row.Lukumaara) / all.Lukumaara;
+        Finish(rows[static_cast<std::size_t>(slot)]);
     }
+    LaskeOsuudet(rows, slots);
 }
 
 void LaskeKvadrantit(const PlotData& data, const Kvadrantti& cross, Tilastot& tilastot) {

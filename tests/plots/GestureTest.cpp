@@ -188,7 +188,7 @@ TEST_F(GestureTest, HoverMarksCornersAndNames) {
     EXPECT_EQ(boxes(), 4);
     form_.Move(30, 30);
     EXPECT_EQ(boxes(), 0);
-    const PixelPoint name = NimenPaikka(PlotArea(form_.surface), Populaatiot(1));
+    const PixelPoint name = NimenPaikka(PlotArea(form_.surface), Populaatiot(1), kPolygonName);
     form_.Move(name.x + 40, name.y + 6);
     ASSERT_EQ(boxes(), 1);
     EXPECT_EQ(form_.surface.strokes.back().color, Grey(120));

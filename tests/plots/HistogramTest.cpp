@@ -1,0 +1,331 @@
+// The histogram: its bins, its bars, markers by mouse, and its statistics.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/RegionMuuttujat.h"
+#include "mainwindow/WindowList.h"
+#include "plots/HistogramBins.h"
+#include "plots/MarkerOutlines.h"
+#include "tests/support/PlotFixture.h"
+
+namespace tessarin {
+namespace {
+
+TEST(HistogramBinsTest, CountsByPlaceOnTheAxis) {
+    PutFile(1, "f",
+            {{"a", false, 1024, {0, -3, 5, 5.5F, 1023.9F, 1024, 1025, NAN, 1e30F}},
+             {"b", false, 262144, {255, 256, 511, 512, 0, 0, 0, 0, 0}},
+             {"c", true, 10000, {1, 10, 100, 1000, 10000, 0, 0, 0, 0}}});
+    Tiedostot(1).Membership(5, 3) = 1;
+    const auto bins = LaskeHistogrammi({Tiedostot(1), 1}, 1024);
+    ASSERT_EQ(bins.size(), 1025U);
+    EXPECT_EQ(bins[0], 3) << "what is at the foot, below it, and no number";
+    EXPECT_EQ(bins[5], 2);
+    EXPECT_EQ(bins[1023], 1);
+    EXPECT_EQ(bins[1024], 1) << "just what lies on the range";
+    EXPECT_EQ(std::count(bins.begin(), bins.end(), 0), 1021);
+    const auto wide = LaskeHistogrammi({Tiedostot(1), 2}, 1024);
+    EXPECT_EQ(wide[0], 6);
+    EXPECT_EQ(wide[1], 2);
+    EXPECT_EQ(wide[2], 1);
+    const auto decades = LaskeHistogrammi({Tiedostot(1), 3}, 1024);
+    EXPECT_EQ(decades[512], 1) << "two of four decades";
+    EXPECT_EQ(decades[768], 1);
+    EXPECT_EQ(LaskeHistogrammi({Tiedostot(1), 1, 3}, 1024)[1023], 1);
+    EXPECT_EQ(LaskeHistogrammi({Tiedostot(1), 1, 3}, 1024)[0], 0) << "gated";
+    EXPECT_EQ(LaskeHistogrammi({Tiedostot(1), 1, 0, 4}, 1024)[0], 1) << "events 1, 5 and 9";
+    PalautaAlkutila();
+}
+
+TEST(HistogramBinsTest, SmoothsForwardAndFindsTheTop) {
+    std::vector<double> bins(1025);
+    bins[0] = 7;
+    bins[100] = 3;
+    bins[1023] = 6;
+    auto smooth = bins;
+    Tasoita(smooth, 2);
+    EXPECT_EQ(smooth[0], 7);
+    EXPECT_EQ(smooth[97], 0);
+    EXPECT_EQ(smooth[98] + smooth[99] + smooth[100], 3);
+    EXPECT_EQ(smooth[101], 0);
+    EXPECT_EQ(smooth[1021], 2);
+    EXPECT_EQ(smooth[1022], 2) << "the last mean, of bins 1022 to 1024";
+    EXPECT_EQ(smooth[1024], 2);
+    EXPECT_EQ(KorkeinPylvas(bins), 3) << "not the ten bins at either end";
+    EXPECT_EQ(KorkeinPylvas(smooth), 1);
+    smooth = bins;
+    Tasoita(smooth, 1000000);  // limited to 1023: one mean of bins 1 to 1024
+    EXPECT_FLOAT_EQ(static_cast<float>(smooth[1]), 9.0F / 1024);
+    EXPECT_EQ(smooth[1024], smooth[1]);
+    smooth = bins;
+    Tasoita(smooth, 0);
+    EXPECT_EQ(smooth, bins);
+}
+
+// Ten events at 500, in bin 512, and two at 250, in bin 256; smoothing is off.
+class HistogramTest : public PlotTest {
+  protected:
+    HistogramTest() : form_(Make()) { Answer(3, "0"); }
+
+    ScriptedForm& Make() {
+        OletusKokoHistogram = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
+                               TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
+        std::vector<float> values(10, 500);
+        values.insert(values.end(), 2, 250);
+        PutFile(1, "tube.fcs",
+                {{"FL1", false, 1000, values}, {"FL2", false, 1000, std::vector<float>(12, 100)}});
+        CurrentFile = 1;
+        Choose("CreateHistogram");
+        return LastForm();
+    }
+    void Answer(int item, const std::string& text) {
+        platform.dialogs.texts.push_back(text);
+        ChoosePopup(form_, item);
+    }
+    void Arm() { platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion); }
+    void Drag(double x1, double y1, double x2, double y2) {
+        form_.Press(x1, y1);
+        form_.Move((x1 + x2) / 2, (y1 + y2) / 2);
+        form_.Move(x2, y2);
+        form_.Release(x2, y2);
+    }
+    // Ends at grid 2000 and 6000, height 5000.
+    void DrawMarker() {
+        Arm();
+        Drag(138, 100, 58, 118);  // from right to left
+    }
+    int Members(int16_t slot) {
+        const auto column = Tiedostot(1).Membership.Sarake(slot);
+        return static_cast<int>(std::count(column.begin(), column.end(), uint8_t{1}));
+    }
+    int CountStrokes(LineForm form, Rgb color) {
+        const auto& strokes = form_.surface.strokes;
+        return static_cast<int>(std::count_if(
+            strokes.begin(), strokes.end(),
+            [&](const auto& stroke) { return stroke.form == form && stroke.color == color; }));
+    }
+
+    ScriptedForm& form_;
+    const Rgb kRed{255, 0, 0};
+};
+
+TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
+    EXPECT_EQ(form_.caption, "[S] (1): Histogram - tube.fcs");
+    EXPECT_TRUE(form_.surface.HasText("FL1"));
+    ASSERT_TRUE(form_.surface.HasText(" 10"));
+    const auto& texts = form_.surface.texts;
+    const auto top = std::find_if(texts.begin(), texts.end(),
+                                  [](const auto& text) { return text.text == " 10"; });
+    EXPECT_TRUE(top->rotated);
+    EXPECT_EQ(top->x, 2);
+    EXPECT_EQ(top->y, 18 + 3 * 7);
+    // From each column to the next, but for the first and the last.
+    EXPECT_EQ(CountStrokes(LineForm::kLine, {175, 0, 0}), 199);
+    ChoosePopup(form_, 13);
+    EXPECT_EQ(CountStrokes(LineForm::kLine, {175, 0, 0}), 0);
+    ChoosePopup(form_, 13);
+    ChoosePopup(form_, 13);
+    EXPECT_EQ(platform.popups.lastEntries[13].caption, "Don't draw outline");
+    // Bin 512 of 1024 on 200 pixels is column 100, and 256 is column 50.
+    EXPECT_EQ(form_.surface.PixelAt(118, 30), kRed.Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(68, 118 + 70), kRed.Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(68, 118 + 50), Grey(0).Pixel()) << "two of ten";
+
+    Answer(2, "20");
+    EXPECT_EQ(platform.dialogs.questions.back().text, "Set Y scale\n(0 = automatic)");
+    EXPECT_TRUE(form_.surface.HasText(" 20"));
+    EXPECT_EQ(form_.surface.PixelAt(118, 100), Grey(0).Pixel());
+    for (const char* refused : {"", "-1", "many", "1e999"}) {
+        Answer(2, refused);
+        EXPECT_TRUE(form_.surface.HasText(" 20")) << refused;
+    }
+    Answer(2, "5");
+    platform.dialogs.colors = {{0, 90, 200}};
+    ChoosePopup(form_, 11);
+    EXPECT_EQ(form_.surface.PixelAt(118, 100), (Rgb{0, 90, 200}).Pixel());
+    ChoosePopup(form_, 13);
+    EXPECT_GT(CountStrokes(LineForm::kLine, {0, 10, 120}), 0) << "no part of a colour below 0";
+    form_.SetOuterSize(TwipsFromPixels(1), TwipsFromPixels(1));
+    EXPECT_EQ(KokoaMuutetaan, 0) << "always redrawn in full";
+}
+
+TEST_F(HistogramTest, GivesItsBinsToOthers) {
+    AnalysisWindow& window = *IkkunaPaikassa(1);
+    ChoosePopup(form_, 16);
+    std::string expected;
+    for (int bin = 1; bin <= 1024; ++bin) {
+        expected += bin == 512 ? "10\n" : (bin == 256 ? "2\n" : "0\n");
+    }
+    EXPECT_EQ(platform.clipboard.text, expected);
+    EXPECT_EQ((*window.LahetaHistogram())[512], 10);
+    EXPECT_EQ(window.LahetaMax(), 1000);
+    EXPECT_EQ(window.LahetaLog(), false);
+    EXPECT_EQ(window.LahetaNimi(), "FL1");
+    EXPECT_EQ(window.LahetaKanavaID(), 1);
+    EXPECT_EQ(window.LahetaScale(), 0);
+    Populaatiot(1).X[1] = 1000;
+    Populaatiot(1).X[2] = 4000;
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 1), 2500);
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("abskorkeus", 1), 2);
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("suhtkorkeus", 1), 2000);
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("other", 1), 0);
+    Populaatiot(1).X[2] = 1e30F;
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 1), 5000);
+    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 99), 0);
+    int32_t place = 5000;
+    EXPECT_EQ(window.AnnaHistonKorkeus(place), 10000);
+    EXPECT_EQ(place, 512) << "the argument becomes the bin";
+    place = -5;
+    EXPECT_EQ(window.AnnaHistonKorkeus(place), 0);
+    window.AsetaKanava("x", 2);
+    EXPECT_EQ(window.AnnaKanava("x"), "2");
+    EXPECT_TRUE(form_.surface.HasText("FL2"));
+    PutFile(1, "narrow.fcs", {{"only", false, 1000, {1}}});
+    window.Piirra();
+    EXPECT_EQ(window.AnnaKanava("x"), "1") << "a channel that the file lacks falls back";
+}
+
+TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
+    PutFile(2, "other.fcs", {{"a", false, 1000, {200, 199.9F, 600, 600.1F}}});
+    DrawMarker();
+    const Populaatio& marker = Populaatiot(1);
+    EXPECT_TRUE(marker.Defined && marker.Transparent);
+    EXPECT_EQ(marker.Name, "Histo-1");
+    EXPECT_EQ(marker.Type, "Histogram");
+    EXPECT_EQ(marker.AxisX, 1);
+    EXPECT_EQ(marker.Corners, 2);
+    EXPECT_EQ(marker.Created, 1);
+    EXPECT_FLOAT_EQ(marker.X[1], 2000) << "in order, though drawn from right to left";
+    EXPECT_FLOAT_EQ(marker.X[2], 6000);
+    EXPECT_FLOAT_EQ(marker.Y[1], 5000);
+    EXPECT_EQ(Members(1), 12);
+    const auto other = Tiedostot(2).Membership.Sarake(1);
+    EXPECT_EQ(std::vector<uint8_t>(other.begin(), other.end()), (std::vector<uint8_t>{1, 0, 1, 0}))
+        << "both ends count as inside";
+    EXPECT_FALSE(UusiRegionPaalla);
+    EXPECT_TRUE(form_.surface.HasText("Histo-1"));
+    // The bar, and two ends of a twentieth of the plot either way.
+    EXPECT_EQ(form_.surface.PixelAt(100, 118), Grey(255).Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(58, 109), Grey(255).Pixel());
+    EXPECT_NE(form_.surface.PixelAt(58, 107), Grey(255).Pixel());
+    ChoosePopup(form_, 5);
+    EXPECT_FALSE(form_.surface.HasText("Histo-1"));
+
+    platform.dialogs.answers = {true};
+    Arm();
+    form_.Press(118, 50);
+    EXPECT_EQ(CountStrokes(LineForm::kFilledBox, kRed), 2) << "red at first";
+    form_.Release(118, 50);
+    EXPECT_EQ(Members(1), 10) << "without a move it takes what lies right there";
+}
+
+TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
+    DrawMarker();
+    form_.Move(138, 119);
+    EXPECT_EQ(CountStrokes(LineForm::kFilledBox, Grey(255)), 2) << "an end marks both";
+    Drag(138, 118, 500, 68);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[2], 10000) << "an end stops at the edge";
+    EXPECT_FLOAT_EQ(Populaatiot(1).Y[1], 2500) << "and changes the height";
+    Drag(218, 68, 98, 68);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[2], 4000);
+    EXPECT_EQ(Members(1), 2);
+
+    form_.Press(70, 200);  // between the ends, at any height
+    EXPECT_EQ(SiirrettavaRegion, 1);
+    form_.Move(90, 200);
+    form_.Move(400, 200);  // would leave the plot: stays
+    form_.Move(380, 200);
+    form_.Release(380, 200);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2000);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[2], 4000);
+    EXPECT_EQ(SiirrettavaRegion, 0);
+    Drag(70, 200, 130, 210);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000);
+    EXPECT_EQ(Members(1), 10);
+
+    const PlotArea area(form_.surface);
+    const PixelPoint name = NimenPaikka(area, Populaatiot(1), kMarkerName);
+    EXPECT_EQ(name.x, 18 + 120 - 7 * 3.5) << "over the middle of 5000 and 7000";
+    EXPECT_EQ(name.y, 78 - 14);
+    form_.Move(name.x + 20, name.y + 18);
+    EXPECT_EQ(CountStrokes(LineForm::kFilledBox, Grey(120)), 1);
+    Drag(name.x + 1, name.y + 1, name.x + 11, name.y - 9);
+    EXPECT_EQ(Populaatiot(1).TitleX, 550) << "its corner goes to the mouse";
+    EXPECT_EQ(Populaatiot(1).TitleY, -450);
+
+    form_.Press(118, 78);
+    EXPECT_EQ(MuokattavaKulma, 1);
+    form_.Move(20, 78);
+    form_.Lose();
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000) << "broken off";
+}
+
+TEST_F(HistogramTest, LeavesAPolygonUnderWorkAlone) {
+    ScriptedForm& dots = NewDotPlot();
+    Arm();
+    dots.Press(68, 68);
+    dots.Release(68, 68);
+    form_.Press(100, 100);
+    form_.Move(120, 100);
+    form_.Release(120, 100);
+    EXPECT_TRUE(RegionAloitettu);
+    EXPECT_EQ(KulmienMaara, 1);
+    EXPECT_FALSE(Populaatiot(1).Defined);
+}
+
+TEST_F(HistogramTest, StatisticsWithSpread) {
+    PutFile(1, "tube.fcs",
+            {{"FL1", false, 1000, {10, 30, 0, 500}}, {"FL2", false, 1000, {1, 2, 3, 4}}});
+    Populaatio& marker = Populaatiot(3);
+    marker.Defined = true;
+    marker.Name = "Low";
+    marker.Type = "Histogram";
+    marker.AxisX = 1;
+    marker.Created = 2;  // of another window
+    marker.X[1] = 100;
+    marker.X[2] = 300;
+    Populaatiot(4) = marker;
+    Populaatiot(4).AxisX = 2;
+    Populaatiot(5) = marker;
+    Populaatiot(5).Name = "None";
+    Populaatiot(5).X[1] = 301;
+    Populaatiot(5).X[2] = 301;
+    TarkistaPopulaatiot();
+    ChoosePopup(form_, 1);
+    const ScriptedGridForm& grid = *platform.mainForm.grids.back();
+    using Row = std::vector<std::string>;
+    EXPECT_EQ(grid.caption, "(1) Statistics: tube.fcs");
+    EXPECT_EQ(grid.table.rows[0].cells,
+              (Row{"", "Number", "% of vis", "X mean", "X geomean", "CV"}));
+    // 10, 30, 0, 500: mean 135, squares of the distances 125^2 + 105^2 + 135^2 + 365^2 = 178100;
+    // the root of a quarter of that is 211.0094, by 135 1.56303. Geometric: 0 counts as 1, and
+    // the fourth root of 150000 is 19.6799.
+    EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "4", "100", "135", "19.67", "156.3"}));
+    // 10 and 30: mean 20, distance 10 each, so 0.5; geometric the root of 300.
+    EXPECT_EQ(grid.Row("Low"), (Row{"Low", "2", "50", "20", "17.32", "50"}));
+    EXPECT_EQ(grid.Row("None"), (Row{"None", "0", "0", "0", "0", "0"}));
+    EXPECT_EQ(grid.table.Rows(), 4) << "no row for a marker of another channel";
+    EXPECT_EQ(grid.width.count, 5 * 1200 + 1500 + 100);
+    const AnalysisWindow& window = *IkkunaPaikassa(1);
+    EXPECT_EQ(window.AnnaStatistiikka("3", "cv"), 50);
+    EXPECT_EQ(window.AnnaStatistiikka("3", "vis"), 50);
+    EXPECT_EQ(window.AnnaStatistiikka("0", "xmean"), 135);
+    EXPECT_EQ(window.AnnaStatistiikka("ul", "number"), std::nullopt);
+    EXPECT_EQ(window.AnnaStatistiikka("0", "ymean"), std::nullopt);
+
+    platform.popups.choices.push_back({7, -1});
+    platform.mainForm.grids.back()->events.Grid_RightPress();
+    EXPECT_EQ(platform.popups.lastEntries[5].caption, "CV");
+    EXPECT_EQ(grid.table.rows[0].cells[0], "File name");
+    IkkunaPaikassa(1)->NaytaPopulaatio(3);
+    EXPECT_EQ(grid.Row("Visible")[1], "2");
+    IkkunaPaikassa(1)->AsetaKanava("x", 2);
+    EXPECT_EQ(grid.table.Rows(), 4) << "the header row, and the marker on that channel";
+    ChoosePopup(form_, 1);
+    EXPECT_TRUE(platform.mainForm.grids.empty());
+}
+
+}  // namespace
+}  // namespace tessarin

@@ -1,4 +1,5 @@
-// Drawing dots and density, beside a plain loop that projects the events and stores the pixels.
+// Drawing dots, density and bars, beside a plain loop that projects the events and stores the
+// pixels.
 #include <benchmark/benchmark.h>
 
 #include <vector>
@@ -9,6 +10,8 @@
 #include "platform/scripted/RecordingKuva.h"
 #include "plots/DensityLayer.h"
 #include "plots/DotLayer.h"
+#include "plots/HistogramBars.h"
+#include "plots/HistogramBins.h"
 
 namespace tessarin {
 namespace {
@@ -16,6 +19,8 @@ namespace {
 constexpr int kSide = 512;
 constexpr int16_t kX = 5;
 constexpr int16_t kY = 6;
+constexpr int16_t kLinear = 2;
+constexpr int kBins = 1024;
 
 void Prepare(RecordingKuva& surface) {
     PalautaAlkutila();
@@ -46,6 +51,52 @@ void Density(benchmark::State& state) {
     }
 }
 BENCHMARK(Density)->Name("Density/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+// A whole redraw of a histogram: counting, smoothing, bars and outline.
+void Bars(benchmark::State& state, int16_t channel) {
+    const Tiedosto& file = BenchFile();
+    RecordingKuva surface;
+    Prepare(surface);
+    for (auto _ : state) {
+        surface.Cls();
+        auto histo = LaskeHistogrammi({file, channel}, kBins);
+        Tasoita(histo, 2);
+        PiirraPylvaat(surface, PlotArea(surface), histo, {KorkeinPylvas(histo), {255, 0, 0}, true});
+    }
+}
+BENCHMARK_CAPTURE(Bars, log, kX)
+    ->Name("LogHistogram/ours")
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5);
+BENCHMARK_CAPTURE(Bars, linear, kLinear)
+    ->Name("LinearHistogram/ours")
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5);
+
+// The plain loop of a histogram: projects and counts, and draws nothing.
+void PlainBins(benchmark::State& state, int16_t channel) {
+    const Tiedosto& file = BenchFile();
+    const AkseliProjektio axis(file.Channels(channel));
+    const auto values = file.Data.Sarake(channel);
+    for (auto _ : state) {
+        std::vector<int32_t> bins(kBins + 1);
+        for (const float value : values) {
+            const double place = axis.TapahtumanPaikka(static_cast<double>(value), kBins);
+            if (place < kBins + 1) {
+                ++bins[static_cast<std::size_t>(place)];
+            }
+        }
+        benchmark::DoNotOptimize(bins.data());
+    }
+}
+BENCHMARK_CAPTURE(PlainBins, log, kX)
+    ->Name("LogHistogram/plain")
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5);
+BENCHMARK_CAPTURE(PlainBins, linear, kLinear)
+    ->Name("LinearHistogram/plain")
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(5);
 
 // Projects with the same rule, its constants worked out once, and sets a pixel or counts a cell at
 // each event.

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <random>
+
 #include "core/Muuttujat.h"
 #include "tests/support/SessionFixture.h"
 #include "tests/support/TemporaryFolder.h"
@@ -65,6 +68,67 @@ TEST_F(TxtReaderTest, HostileTablesAreRefusedOrOpenSmall) {
     EXPECT_EQ(Read(std::string("A\n\0\n5\0\n", 7)).file.Data(2, 1), 5);
     MaxLoadedEvents = 2;
     EXPECT_EQ(Read("A\n1\n2\n3\n").file.EventCount, 2);
+}
+
+// Damages a good table at random places: a byte, a stretch repeated, cut out, or a telling text
+// put in. The seed is fixed; TESSARIN_MUTATIONS sets how many tables are tried.
+std::string Damaged(std::string bytes, std::mt19937& random) {
+    static const std::string kPieces[] = {"\t",          "\n",
+                                          "\r\n",        "\r",
+                                          "\"",          std::string(1, '\0'),
+                                          ",",           "1e999",
+                                          "nan",         "-inf",
+                                          "0x",          "\xff",
+                                          "name\t",      "\"\"",
+                                          "\n\n\n\n",    std::string(5000, '\t'),
+                                          "\xef\xbb\xbf"};
+    for (auto left = 1 + random() % 4; left > 0; --left) {
+        const std::size_t at = random() % (bytes.size() + 1);
+        const std::size_t length = random() % 50;
+        switch (random() % 4) {
+            case 0:
+                bytes.insert(at, kPieces[random() % std::size(kPieces)]);
+                break;
+            case 1:
+                bytes.erase(at, length);
+                break;
+            case 2:
+                for (auto times = random() % 200; times > 0; --times) {
+                    bytes.insert(at, bytes.substr(at, length));
+                }
+                break;
+            default:
+                bytes.insert(at, 1, static_cast<char>(random()));
+                break;
+        }
+    }
+    return bytes;
+}
+
+TEST_F(TxtReaderTest, DamagedTablesAreReadOrRefused) {
+    const char* wanted = std::getenv("TESSARIN_MUTATIONS");
+    const int count = wanted != nullptr ? std::atoi(wanted) : 1000;
+    std::string table = "Name\tFSC\t\"S S\"\tFL1\r\n";
+    for (int row = 0; row < 30; ++row) {
+        table += "r" + std::to_string(row) + "\t1,5\t-2e3\t\"7\"\r\n";
+    }
+    std::mt19937 random(2026);
+    MaxLoadedEvents = 1000;
+    for (int i = 0; i < count; ++i) {
+        const std::string bytes = Damaged(table, random);
+        const auto [file, badCells] = Read(bytes);
+        const auto cells = int64_t{file.EventCount} * file.ChannelCount;
+        EXPECT_EQ(int64_t{file.Data.Events()} * file.Data.Columns(), cells);
+        EXPECT_LE(cells, 33554432 + 8 * static_cast<int64_t>(bytes.size()));
+        EXPECT_GE(badCells, 0);
+        EXPECT_EQ(file.Membership.Events(), file.EventCount);
+        if (!file.Valid) {
+            ExpectRefused(file);
+        } else {
+            EXPECT_GE(TaulukkoTekstina(file).size(), static_cast<std::size_t>(2 * cells));
+        }
+        ASSERT_FALSE(HasFailure()) << "mutation " << i;
+    }
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "core/FcsHeader.h"
 #include "core/FcsKeywords.h"
 #include "core/FcsOddities.h"
+#include "core/FcsText.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/TableSize.h"
@@ -74,6 +75,10 @@ class Source {
 std::string NormalisedText(std::string bytes) {
     if (bytes.empty()) {
         return bytes;
+    }
+    // What a doubled delimiter means is known only in the program's own files.
+    if (IsOwnText(bytes)) {
+        return DecodeText(TakeOwnText(bytes));
     }
     std::replace(bytes.begin(), bytes.end(), char{bytes[0]}, kDelimiter);
     return DecodeText(bytes);

@@ -36,7 +36,7 @@ TEST_F(MainWindowTest, MenuTreeStandsWhole) {
                                                 "Ctrl+N", "Ctrl+O", "Ctrl+P", "F1"}));
     EXPECT_TRUE(platform.mainForm.Item("CreateDotPlot").enabled);
     EXPECT_FALSE(platform.mainForm.Item("Printtaa").enabled);
-    EXPECT_FALSE(platform.mainForm.Item("CreateHistogram").enabled) << "until there are any";
+    EXPECT_FALSE(platform.mainForm.Item("CreateBendPlot").enabled) << "until there are any";
 }
 
 TEST_F(MainWindowTest, PanelListsEverySlot) {

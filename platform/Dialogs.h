@@ -16,6 +16,7 @@ struct FileQuestion {
     std::string title;
     std::string filter;
     std::string presetName{};
+    std::string ending{};  ///< a name to save under that has no ending gets this one
 };
 
 class Dialogs {

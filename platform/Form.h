@@ -49,13 +49,19 @@ class Form {
 
     virtual void SetCaption(std::string_view caption) = 0;
 
-    /// Outer size, frame and title included.
+    /// Outer size, frame and title included. While the form is minimised or fills the main window
+    /// size and place are those that it goes back to.
     virtual void SetOuterSize(Twips width, Twips height) = 0;
     virtual Twips OuterWidth() const = 0;
     virtual Twips OuterHeight() const = 0;
     /// False while the form is minimised or fills the main window: its size then is not one that
     /// the user gave it.
     virtual bool HasOwnSize() const = 0;
+
+    /// Upper left corner of the frame in the main window's area.
+    virtual Twips Left() const = 0;
+    virtual Twips Top() const = 0;
+    virtual void SetPlace(Twips left, Twips top) = 0;
 
     /// Size of the client area in pixels; 0 when there is none to see.
     virtual int ScaleWidth() const = 0;

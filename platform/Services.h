@@ -84,6 +84,15 @@ class Printer {
     virtual void EndDoc() = 0;
 };
 
+/// Locks between running programs, each a small file.
+class Locks {
+  public:
+    virtual ~Locks() = default;
+    /// Takes the lock at that path until the program ends, however it does. False when another
+    /// running program has it or the file cannot be made.
+    virtual bool Take(const std::string& path) = 0;
+};
+
 /// Everything that the logic needs of the platform. The services outlive whoever is given them.
 struct Platform {
     MainForm& mainForm;
@@ -95,7 +104,9 @@ struct Platform {
     Browser& browser;
     Timers& timers;
     Printer& printer;
+    Locks& locks;
     std::string programFolder;  ///< where the program's own files lie, ending in "/"
+    std::string dataFolder;     ///< the user's folder for its data, likewise; empty for none
 };
 
 }  // namespace tessarin

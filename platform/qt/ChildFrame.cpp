@@ -51,15 +51,15 @@ void ChildFrame::SetOuterSize(Twips width, Twips height) {
 }
 
 Twips ChildFrame::OuterWidth() const {
-    return TwipsFromPixels(window_ ? window_->width() : 0);
+    return TwipsFromPixels(window_ ? window_->OwnGeometry().width() : 0);
 }
 
 Twips ChildFrame::OuterHeight() const {
-    return TwipsFromPixels(window_ ? window_->height() : 0);
+    return TwipsFromPixels(window_ ? window_->OwnGeometry().height() : 0);
 }
 
 bool ChildFrame::HasOwnSize() const {
-    return window_ != nullptr && !window_->isMinimized() && !window_->isMaximized();
+    return window_ != nullptr && window_->HasOwnSize();
 }
 
 QSize ChildFrame::ClientSize() const {
@@ -72,11 +72,11 @@ QSize ChildFrame::ClientSize() const {
 }
 
 Twips ChildFrame::Left() const {
-    return TwipsFromPixels(window_ ? window_->x() : 0);
+    return TwipsFromPixels(window_ ? window_->OwnGeometry().x() : 0);
 }
 
 Twips ChildFrame::Top() const {
-    return TwipsFromPixels(window_ ? window_->y() : 0);
+    return TwipsFromPixels(window_ ? window_->OwnGeometry().y() : 0);
 }
 
 void ChildFrame::SetPlace(Twips left, Twips top) {

@@ -20,6 +20,29 @@ QSize ChildWindow::minimumSizeHint() const {
     return {kSmallest, kSmallest};
 }
 
+// A window that is about to be minimised or to fill the area still has its own geometry in the
+// last move or resize before that.
+void ChildWindow::KeepGeometry() {
+    if (HasOwnSize()) {
+        own_ = geometry();
+    }
+}
+
+void ChildWindow::changeEvent(QEvent* event) {
+    QMdiSubWindow::changeEvent(event);
+    KeepGeometry();
+}
+
+void ChildWindow::moveEvent(QMoveEvent* event) {
+    QMdiSubWindow::moveEvent(event);
+    KeepGeometry();
+}
+
+void ChildWindow::resizeEvent(QResizeEvent* event) {
+    QMdiSubWindow::resizeEvent(event);
+    KeepGeometry();
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) {
     // Whether the window goes is up to its receiver, not to Qt.
     event->ignore();

@@ -29,11 +29,22 @@ class ChildWindow : public QMdiSubWindow {
 
     QSize minimumSizeHint() const override;
 
+    /// Whether it has its own size and place now: it is neither minimised nor fills the area.
+    bool HasOwnSize() const { return !isMinimized() && !isMaximized(); }
+    /// Its own size and place, which it goes back to from being minimised or filling the area.
+    QRect OwnGeometry() const { return HasOwnSize() ? geometry() : own_; }
+
   protected:
+    void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    void KeepGeometry();
+
     ChildEvents* events_;
+    QRect own_;
 };
 
 }  // namespace tessarin

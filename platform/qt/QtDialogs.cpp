@@ -68,8 +68,10 @@ std::string QtDialogs::OpenFile(const FileQuestion& question) {
 }
 
 std::string QtDialogs::SaveFile(const FileQuestion& question) {
+    // Whoever asks for a place asks about overwriting too.
     return Chosen(QFileDialog::getSaveFileName(
-        &parent_, AsTitle(question.title), Start(question.presetName), QtFilter(question.filter)));
+        &parent_, AsTitle(question.title), Start(question.presetName), QtFilter(question.filter),
+        nullptr, QFileDialog::DontConfirmOverwrite));
 }
 
 std::optional<Rgb> QtDialogs::ChooseColor(Rgb current) {

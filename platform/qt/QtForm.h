@@ -22,6 +22,9 @@ class QtForm : public Form, private ChildEvents {
     Twips OuterWidth() const override { return frame_.OuterWidth(); }
     Twips OuterHeight() const override { return frame_.OuterHeight(); }
     bool HasOwnSize() const override { return frame_.HasOwnSize(); }
+    Twips Left() const override { return frame_.Left(); }
+    Twips Top() const override { return frame_.Top(); }
+    void SetPlace(Twips left, Twips top) override { frame_.SetPlace(left, top); }
     int ScaleWidth() const override { return frame_.ClientSize().width(); }
     int ScaleHeight() const override { return frame_.ClientSize().height(); }
     void Show() override { frame_.Show(); }

@@ -33,6 +33,8 @@ QtPlatform::QtPlatform(const Options& options)
                 Either<Browser>(options.browser, browser_),
                 timers_,
                 *printer_,
-                options.programFolder} {}
+                locks_,
+                options.programFolder,
+                options.dataFolder} {}
 
 }  // namespace tessarin

@@ -9,6 +9,7 @@
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtLocks.h"
 #include "platform/qt/QtMainForm.h"
 #include "platform/qt/QtPointer.h"
 #include "platform/qt/QtPopupMenus.h"
@@ -22,6 +23,7 @@ class QtPlatform {
     struct Options {
         bool headless = false;
         std::string programFolder;  ///< ends in "/"
+        std::string dataFolder;     ///< likewise, or empty
         std::string printerPath;    ///< headless: the PDF file that is printed to; empty for none
         // Taken instead of the ones on the screen; nullptr for those. They must outlive this.
         Dialogs* dialogs = nullptr;
@@ -46,6 +48,7 @@ class QtPlatform {
     QtPopupMenus popups_;
     QtBrowser browser_;
     QtTimers timers_;
+    QtLocks locks_;
     std::unique_ptr<QtPrinter> printer_;
     Platform services_;
 };

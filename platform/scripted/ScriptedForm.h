@@ -20,6 +20,12 @@ class ScriptedForm : public Form {
     Twips OuterWidth() const override { return width_; }
     Twips OuterHeight() const override { return height_; }
     bool HasOwnSize() const override { return true; }
+    Twips Left() const override { return left; }
+    Twips Top() const override { return top; }
+    void SetPlace(Twips newLeft, Twips newTop) override {
+        left = newLeft;
+        top = newTop;
+    }
     int ScaleWidth() const override;
     int ScaleHeight() const override;
     void Show() override;
@@ -40,6 +46,8 @@ class ScriptedForm : public Form {
 
     std::string caption;
     bool shown = false;
+    Twips left;
+    Twips top;
     RecordingKuva surface;
 
     // Frame and title around the client area, in pixels.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -73,6 +74,13 @@ class ScriptedPrinter : public Printer {
     int pages = 0;
 };
 
+class ScriptedLocks : public Locks {
+  public:
+    /// Not to be had for the paths that another program holds.
+    bool Take(const std::string& path) override { return !others.contains(path); }
+    std::set<std::string> others;
+};
+
 class ScriptedPlatform {
   public:
     ScriptedMainForm mainForm;
@@ -84,10 +92,13 @@ class ScriptedPlatform {
     ScriptedBrowser browser;
     ScriptedTimers timers;
     ScriptedPrinter printer;
+    ScriptedLocks locks;
+    std::string programFolder = "program/";
+    std::string dataFolder;
 
     Platform Services() {
-        return {mainForm, dialogs, clipboard, pointer, popups,
-                loop,     browser, timers,    printer, "program/"};
+        return {mainForm, dialogs, clipboard, pointer, popups,        loop,
+                browser,  timers,  printer,   locks,   programFolder, dataFolder};
     }
 };
 

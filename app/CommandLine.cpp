@@ -9,6 +9,8 @@
 namespace tessarin {
 namespace {
 
+constexpr int32_t kMostMenus = 1000;  // windows, and items of a menu
+
 // One option: what it does to the result, given its value. Those without a value get "".
 struct Option {
     std::string_view name;
@@ -29,11 +31,22 @@ bool TakeMenu(std::vector<MenuChoice>& menu, const std::string& value) {
     }
     const auto window = ParseWholeNumber(pieces[0]);
     const auto item = ParseWholeNumber(pieces[1]);
-    constexpr int32_t kMost = 1000;
-    if (!window || !item || *window < 1 || *window > kMost || *item < 1 || *item > kMost) {
+    if (!window || !item || *window < 1 || *window > kMostMenus || *item < 1 ||
+        *item > kMostMenus) {
         return false;
     }
     menu.push_back({static_cast<int16_t>(*window), *item});
+    return true;
+}
+
+bool TakeFcsSave(std::vector<FcsSave>& saves, const std::string& value) {
+    const std::size_t equals = value.find('=');
+    const auto window = ParseWholeNumber(value.substr(0, equals));
+    if (equals == std::string::npos || equals + 1 == value.size() || !window || *window < 1 ||
+        *window > kMostMenus) {
+        return false;
+    }
+    saves.push_back({static_cast<int16_t>(*window), value.substr(equals + 1)});
     return true;
 }
 
@@ -55,6 +68,11 @@ constexpr std::array kOptions = {
            }},
     Option{"--neg-bumper", "", "use the neg value bumper",
            [](CommandLine& line, const std::string&) { return line.negBumper = true; }},
+    Option{"--save-sheet", "FILE", "save the session as an analysis sheet",
+           [](CommandLine& line, const std::string& value) { return TakePath(line.sheet, value); }},
+    Option{
+        "--save-fcs", "WINDOW=FILE", "save that window's data as an FCS file",
+        [](CommandLine& line, const std::string& value) { return TakeFcsSave(line.fcs, value); }},
     Option{
         "--snapshot", "FILE.png", "save a picture of the main window",
         [](CommandLine& line, const std::string& value) { return TakePath(line.snapshot, value); }},
@@ -138,7 +156,8 @@ CommandLine TakeCommandLine(std::span<const std::string> words) {
 std::string HelpText() {
     std::string text =
         "Usage: tessarin [OPTION]... [FILE]...\n"
-        "Opens each FILE of flow cytometry data in a dot plot.\n\n";
+        "Opens each FILE of flow cytometry data in a dot plot; one ending in .tessarin is an\n"
+        "analysis sheet and replaces the session.\n\n";
     for (const Option& option : kOptions) {
         constexpr std::size_t kColumn = 26;
         std::string left = "  " + std::string(option.name) + " " + std::string(option.value);

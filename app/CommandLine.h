@@ -15,6 +15,12 @@ struct MenuChoice {
     int item = 0;
 };
 
+/// A window's data to be written as an FCS file.
+struct FcsSave {
+    int16_t window = 0;
+    std::string path;
+};
+
 struct CommandLine {
     bool help = false;
     bool version = false;
@@ -23,6 +29,8 @@ struct CommandLine {
     std::optional<int32_t> fastDrawLimit;
     bool negBumper = false;
     std::string snapshot;            ///< where to put a picture of the main window; empty for none
+    std::string sheet;               ///< where to save the session as a sheet; empty for nowhere
+    std::vector<FcsSave> fcs;        ///< in order
     std::string clipboard;           ///< where to put the clipboard's text; empty for nowhere
     std::vector<MenuChoice> menu;    ///< in order
     std::vector<std::string> files;  ///< as they were written

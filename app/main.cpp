@@ -1,14 +1,16 @@
 // The program: command line, choice of platform, registration of window kinds.
 #include <QApplication>
+#include <QDir>
+#include <QStandardPaths>
 #include <filesystem>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "app/CommandLine.h"
+#include "core/FCSWriter.h"
 #include "core/Muuttujat.h"
 #include "core/SafeFile.h"
-#include "mainwindow/FileLoading.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 #include "platform/qt/Conversions.h"
@@ -16,6 +18,8 @@
 #include "platform/qt/QtPlatform.h"
 #include "platform/scripted/ScriptedPlatform.h"
 #include "plots/RegisterPlots.h"
+#include "sheets/SheetStore.h"
+#include "sheets/SheetWriter.h"
 
 namespace tessarin {
 namespace {
@@ -40,7 +44,7 @@ void TakeOptions(const CommandLine& line) {
 void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
     for (const std::string& file : line.files) {
         const std::string path = std::filesystem::absolute(file).lexically_normal().string();
-        AvaaUuteenIkkunaan(main, path, TavallinenLukuTapa(path));
+        main.AvaaTiedosto(path);
     }
 }
 
@@ -55,6 +59,33 @@ bool ChooseMenuItems(const CommandLine& line) {
         window->MenuValintaReaktio(choice.item);
     }
     return true;
+}
+
+bool Told(const std::string& failure) {
+    if (!failure.empty()) {
+        std::cerr << "tessarin: " << failure << std::endl;
+    }
+    return failure.empty();
+}
+
+bool SaveSheet(const PaaIkkuna& main, const std::string& path) {
+    if (path.empty()) {
+        return true;
+    }
+    const Tallennustulos saved = KirjoitaNakyma(main, NakymaLaji::kSheet, path);
+    return Told(saved.result == WriteResult::kDone ? ""
+                                                   : "the sheet could not be written to " + path);
+}
+
+bool SaveFcs(const CommandLine& line) {
+    bool all = true;
+    for (const FcsSave& save : line.fcs) {
+        const bool there = Ikkunat.Holds(save.window) && Ikkunat(save.window).Used;
+        all = Told(there ? KirjoitaFCS(save.path, Ikkunat(save.window).FileIndex)
+                         : "there is no window " + std::to_string(save.window)) &&
+              all;
+    }
+    return all;
 }
 
 bool SaveClipboard(QtPlatform& platform, const std::string& path) {
@@ -79,6 +110,12 @@ bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
     return false;
 }
 
+// The user's folder for what the program keeps, made if need be; empty when there is none.
+std::string DataFolder() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return !folder.isEmpty() && QDir().mkpath(folder) ? folder.toStdString() + "/" : "";
+}
+
 int Run(const CommandLine& line) {
     Nobody nobody;
     QtPlatform::Options options;
@@ -89,10 +126,14 @@ int Run(const CommandLine& line) {
         options.clipboard = &nobody.clipboard;
         options.popups = &nobody.popups;
         options.browser = &nobody.browser;
+    } else {
+        options.dataFolder = DataFolder();  // of which a run that nobody watches needs nothing
     }
     QtPlatform platform(options);
     RekisteroiKuvaajat();
     PaaIkkuna main(platform.Services());
+    SheetStore views(main, !line.headless);
+    main.Kumppanit().views = &views;
     if (line.headless) {
         main.onRemark = [](const std::string& remark) {
             std::cerr << "warning: " << remark << std::endl;
@@ -105,12 +146,14 @@ int Run(const CommandLine& line) {
     }
     OpenFiles(main, line);
     const bool chosen = ChooseMenuItems(line);
+    const bool sheet = SaveSheet(main, line.sheet);
+    const bool fcs = SaveFcs(line);
     const bool pictured = SaveSnapshot(platform, line.snapshot);
     const bool copied = SaveClipboard(platform, line.clipboard);
     const int status = line.headless ? kDone : platform.Loop().Run();
     const bool told = !nobody.dialogs.messages.empty();
     PalautaAlkutila();  // the windows go before the platform that shows them
-    return chosen && pictured && copied && !told ? status : kFailed;
+    return chosen && sheet && fcs && pictured && copied && !told ? status : kFailed;
 }
 
 // The status to end with at once, or -1 to go on.

@@ -80,6 +80,12 @@ class AnalysisWindow : public WindowObject, public FormEvents, public CopySource
     virtual std::optional<std::string> AnnaKvadrantinKoordinaatit(std::string_view /*axis*/) const {
         return std::nullopt;
     }
+    /// The settings as key lines of a sheet, such as "axis.x:3"; which window they belong to is
+    /// for the sheet to say.
+    virtual std::optional<std::vector<std::string>> SaveInfo() { return std::nullopt; }
+    /// Takes one whole line of a sheet, "window.5.axis.x:3"; one that says nothing here changes
+    /// nothing.
+    virtual bool LoadInfo(std::string_view /*line*/) { return false; }
     // `Laheta` means send: what windows that are made of histograms take from one.
     /// The bins as last drawn, from bin 0; empty before that.
     virtual std::optional<std::vector<double>> LahetaHistogram() const { return std::nullopt; }

@@ -100,6 +100,15 @@ bool GiveToWindow(int16_t window, int16_t slot) {
     return true;
 }
 
+// In small letters.
+std::string Ending(const std::string& path) {
+    std::string ending = std::filesystem::path(path).extension().string();
+    for (char& letter : ending) {
+        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+    }
+    return ending;
+}
+
 std::vector<int16_t> SelectedWindows() {
     std::vector<int16_t> selected;
     for (int16_t id = 1; id <= MaxWindows; ++id) {
@@ -162,11 +171,11 @@ void AvaaValittuihin(PaaIkkuna& main, const std::string& path, LukuTapa way) {
 }
 
 LukuTapa TavallinenLukuTapa(const std::string& path) {
-    std::string ending = std::filesystem::path(path).extension().string();
-    for (char& letter : ending) {
-        letter = letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    }
-    return ending == ".txt" ? LukuTapa::kTxt : LukuTapa::kFcs;
+    return Ending(path) == ".txt" ? LukuTapa::kTxt : LukuTapa::kFcs;
+}
+
+bool OnkoNakyma(const std::string& path) {
+    return Ending(path) == ".tessarin";
 }
 
 void FileOpenFCS(PaaIkkuna& main) {

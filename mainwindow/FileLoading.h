@@ -14,6 +14,9 @@ enum class LukuTapa { kFcs, kTxt };
 /// By the file's ending: .txt, in any case, is a text table.
 LukuTapa TavallinenLukuTapa(const std::string& path);
 
+/// Whether the file's ending, in any case, is that of an analysis sheet: .tessarin.
+bool OnkoNakyma(const std::string& path);
+
 /// `TiedostonLukuToimenPiteet` means steps of reading a file. A file already loaded from that
 /// path is shared, any other is read into the lowest free slot; populations then get their
 /// members for it. With `window` not 0 that window shows the file. With `slot` not 0 the file is

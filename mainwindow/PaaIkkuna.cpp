@@ -7,6 +7,7 @@
 #include "mainwindow/Exit.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/FileNavigation.h"
+#include "mainwindow/FileSaving.h"
 #include "mainwindow/LimitDialogs.h"
 #include "mainwindow/MenuTree.h"
 #include "mainwindow/WindowList.h"
@@ -20,6 +21,11 @@ const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
         {"FileOpenTXT", FileOpenTXT},
         {"FileNextFile", FileNextFile},
         {"FilePreviousFile", FilePreviousFile},
+        {"FileSaveFCS", FileSaveFCS},
+        {"FileSaveFCSEiKysymysta", FileSaveFCSEiKysymysta},
+        {"FileOpenView", [](PaaIkkuna& main) { main.OpenView(); }},
+        {"FileSaveView", [](PaaIkkuna& main) { main.TalletaNakyma("Sheet"); }},
+        {"MenuSaveAnalysisPackage", [](PaaIkkuna& main) { main.TalletaNakyma("Paketti"); }},
         {"FileExit", [](PaaIkkuna& main) { FileExit(main); }},
         {"CopyImages", [](PaaIkkuna& main) { main.CopyImages(); }},
         {"SelectAll", [](PaaIkkuna&) { ValitseKaikki(); }},
@@ -61,6 +67,9 @@ void PaaIkkuna::Kaynnista() {
     panel_.Alusta();
     populations_.Rakenna();
     populations_.PaivitaRegionLista();
+    if (companions_.views != nullptr) {
+        companions_.views->TarjoaPalautusta();
+    }
 }
 
 void PaaIkkuna::PiirraKaikki() {
@@ -80,6 +89,18 @@ void PaaIkkuna::TalletaNakyma(std::string_view mode) {
     }
 }
 
+bool PaaIkkuna::LataaNakyma(const std::string& path) {
+    return companions_.views != nullptr && companions_.views->LataaNakyma(path);
+}
+
+void PaaIkkuna::OpenView() {
+    const std::string path = platform_.dialogs.OpenFile(
+        {"Open analysis file", "Tessarin files (*.Tessarin)|*.tessarin"});
+    if (!path.empty()) {
+        LataaNakyma(path);
+    }
+}
+
 void PaaIkkuna::Huomauta(const std::string& remark) {
     platform_.mainForm.SetStatus(remark);
     if (onRemark && !remark.empty()) {
@@ -92,6 +113,9 @@ bool PaaIkkuna::OnkoEsikatselu() const {
 }
 
 void PaaIkkuna::Command(std::string_view command) {
+    if (Loading) {
+        return;  // events run while a sheet is loaded; commands would find half a session
+    }
     const auto handler = Handlers().find(command);
     if (handler != Handlers().end()) {
         handler->second(*this);
@@ -117,13 +141,30 @@ void PaaIkkuna::FreezePanel(bool frozen) {
 }
 
 void PaaIkkuna::CloseRequested() {
-    FileExit(*this);
+    if (!Loading) {
+        FileExit(*this);
+    }
+}
+
+void PaaIkkuna::AvaaTiedosto(const std::string& path) {
+    if (OnkoNakyma(path)) {
+        LataaNakyma(path);
+    } else {
+        AvaaUuteenIkkunaan(*this, path, TavallinenLukuTapa(path));
+    }
 }
 
 void PaaIkkuna::FilesDropped(const std::vector<std::string>& paths) {
     // The first goes where "Open FCS..." would put it; the others would only replace it there.
     bool first = true;
     for (const std::string& path : paths) {
+        if (Loading) {
+            return;
+        }
+        if (OnkoNakyma(path)) {
+            LataaNakyma(path);
+            continue;
+        }
         const LukuTapa way = TavallinenLukuTapa(path);
         first ? AvaaValittuihin(*this, path, way) : AvaaUuteenIkkunaan(*this, path, way);
         first = false;

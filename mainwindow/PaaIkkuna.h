@@ -30,6 +30,7 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void Kaynnista();
 
     const Platform& Services() const { return platform_; }
+    const Companions& Kumppanit() const { return companions_; }
     PopulationPanel& Paneeli() { return populations_; }
     const PopulationPanel& Paneeli() const { return populations_; }
     Companions& Kumppanit() { return companions_; }
@@ -37,8 +38,11 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// `PiirraKaikki` means draw all: redraws every window in slot order, letting events run in
     /// between, then refreshes the panel and autosaves.
     void PiirraKaikki() override;
-    /// Writes the session, once something that can is there.
+    /// Writes the session and brings it back, once something that can is there; see `ViewStore`.
     void TalletaNakyma(std::string_view mode);
+    bool LataaNakyma(const std::string& path);
+    /// Opens a file by its ending: a sheet replaces the session, data come in a new dot plot.
+    void AvaaTiedosto(const std::string& path);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
     void Huomauta(const std::string& remark);
     /// The mouse is over an analysis window: the side panel closes.
@@ -71,6 +75,7 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// What each menu command does; a command that stands in the menu only has no row here.
     static const std::map<std::string_view, Handler>& Handlers();
 
+    void OpenView();
     void CopyImages();
     void ToggleBumper();
     void ShowHelp();

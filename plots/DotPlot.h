@@ -55,11 +55,18 @@ class DotPlot : public PlotWindow {
     void ComputeStatistics(const Tiedosto& file) override;
     GridTable TableOf(const Tiedosto& file, bool copy) const override;
 
+    std::vector<SheetKey> Keys() override;
+    void TakeBackground(uint8_t shade) override;
+
     // Pop-up items of its own.
     void ToggleQuadrant();
+    void SetQuadrantCaption();
     void ToggleDensity();
+    void SetDensityCaption();
     void ToggleColours();
+    void SetColoursCaption();
     void ToggleDotSize();
+    void SetDotSizeCaption();
     void SaveData();
     static std::span<const PopupItem> Items();
 

@@ -3,6 +3,7 @@
 
 #include "core/Muuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/SaveQuestion.h"
 #include "plots/DotPlot.h"
 #include "plots/EventText.h"
 
@@ -49,34 +50,49 @@ void DotPlot::ToggleQuadrant() {
 
 bool DotPlot::NaytaTaiPiilotaKvadrantti(std::string_view what) {
     if (kvadrantti_.NaytaTaiPiilota(what)) {
-        tekstit_.Aseta(kQuadrant,
-                       kvadrantti_.KvadranttiKaytossa ? "Hide quadrant" : "Show quadrant");
+        SetQuadrantCaption();
         Piirra();
     }
     return true;
 }
 
+void DotPlot::SetQuadrantCaption() {
+    tekstit_.Aseta(kQuadrant, kvadrantti_.KvadranttiKaytossa ? "Hide quadrant" : "Show quadrant");
+}
+
 void DotPlot::ToggleDensity() {
     Tiheys = !Tiheys;
-    tekstit_.Aseta(kDensity, Tiheys ? "Dot plot" : "Density plot");
+    SetDensityCaption();
     Piirra();
+}
+
+void DotPlot::SetDensityCaption() {
+    tekstit_.Aseta(kDensity, Tiheys ? "Dot plot" : "Density plot");
 }
 
 void DotPlot::ToggleColours() {
     MoniVari = !MoniVari;
-    tekstit_.Aseta(kColours, MoniVari ? "Disable multicoloring" : "Enable multicoloring");
+    SetColoursCaption();
     Piirra();
+}
+
+void DotPlot::SetColoursCaption() {
+    tekstit_.Aseta(kColours, MoniVari ? "Disable multicoloring" : "Enable multicoloring");
 }
 
 void DotPlot::ToggleDotSize() {
     PisteenKoko = PisteenKoko == 1 ? 2 : 1;
-    tekstit_.Aseta(kDotSize, PisteenKoko == 1 ? "Large dots" : "Small dots");
+    SetDotSizeCaption();
     Piirra();
 }
 
+void DotPlot::SetDotSizeCaption() {
+    tekstit_.Aseta(kDotSize, PisteenKoko == 1 ? "Large dots" : "Small dots");
+}
+
 void DotPlot::SaveData() {
-    const std::string path =
-        AskSavePath({"Save the data", "TXT files (tab delimited) (*.TXT)|*.txt"});
+    const std::string path = KysyTallennuspaikka(
+        main_.Services().dialogs, {"Save the data", "TXT files (tab delimited) (*.TXT)|*.txt"});
     if (path.empty()) {
         return;
     }

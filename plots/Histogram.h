@@ -56,12 +56,16 @@ class Histogram : public PlotWindow {
     void ComputeStatistics(const Tiedosto& file) override;
     GridTable TableOf(const Tiedosto& file, bool copy) const override;
 
+    std::vector<SheetKey> Keys() override;
+    void TakeBackground(uint8_t shade) override;
+
     // Pop-up items of its own.
     void SetScale();
     void SetSmoothing();
     void AskNumber(const std::string& title, std::string_view zero, int32_t& value);
     void ChangeColor();
     void ToggleOutline();
+    void SetOutlineCaption();
     void CopyBins();
     static std::span<const PopupItem> Items();
 

@@ -64,8 +64,12 @@ void Histogram::ChangeColor() {
 
 void Histogram::ToggleOutline() {
     Reunus = !Reunus;
-    tekstit_.Aseta(kOutline, Reunus ? "Don't draw outline" : "Draw outline");
+    SetOutlineCaption();
     Piirra();
+}
+
+void Histogram::SetOutlineCaption() {
+    tekstit_.Aseta(kOutline, Reunus ? "Don't draw outline" : "Draw outline");
 }
 
 void Histogram::CopyBins() {

@@ -174,7 +174,7 @@ void PlotWindow::Form_Resize() {
     if (form_->HasOwnSize()) {
         kind_.size = {form_->OuterWidth().count, form_->OuterHeight().count};
     }
-    if (ThinsWhileResized()) {
+    if (ThinsWhileResized() && !Loading) {
         KokoaMuutetaan = ID;
     }
     Piirra();

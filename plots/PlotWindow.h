@@ -3,20 +3,22 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/Muuttujat.h"
 #include "mainwindow/AnalysisWindow.h"
-#include "platform/Dialogs.h"
 #include "plots/FastDraw.h"
 #include "plots/PlotArea.h"
 #include "plots/PopupCaptions.h"
 #include "plots/RegionGesture.h"
 #include "plots/StatisticsCompanion.h"
+#include "sheets/SheetKeys.h"
 
 namespace tessarin {
 
@@ -46,6 +48,8 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     std::optional<bool> OnkoStatistiikkaKaytossa() const override { return tilasto_.OnkoAuki(); }
     std::optional<std::string> AnnaKokoStatistiikka(std::string_view format) const override;
     bool LiikutaStatistiikkaLaatikkoa(std::string_view axis, int32_t place) override;
+    std::optional<std::vector<std::string>> SaveInfo() override;
+    bool LoadInfo(std::string_view line) override;
 
     // What the platform tells.
     void Form_Activate() override;
@@ -111,6 +115,20 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     virtual void RedrawFollowers() {}
     virtual bool DrawsWhileLoading() const { return false; }
     virtual bool ThinsWhileResized() const { return false; }
+    /// The key lines of its settings, in order. The keys of the statistics window are among them
+    /// while that is open.
+    virtual std::vector<SheetKey> Keys() = 0;
+    /// The background took a shade of grey from a sheet.
+    virtual void TakeBackground(uint8_t shade) = 0;
+
+    // Keys that both kinds have, where each wants them.
+    void AddPlaceKeys(std::vector<SheetKey>& keys);
+    SheetKey ShowKey() { return Lukuavain("show", NaytettavaPopulaatio); }
+    void AddRegionKeys(std::vector<SheetKey>& keys);
+    SheetKey FastDrawKey();
+    SheetKey BackgroundKey();
+    /// Print view and statistics, with so many items of the statistics window.
+    void AddViewKeys(std::vector<SheetKey>& keys, int items);
 
     /// The file in the window; nullptr when there is none.
     const Tiedosto* File() const;
@@ -119,8 +137,6 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     /// Whether the mouse is where the title of the x axis stands.
     static bool IsUnderXAxis(const PlotArea& area, PixelPoint mouse);
     void DrawFastMark(const PlotArea& area);
-    /// Asks where to save; empty when the user thinks better of it.
-    std::string AskSavePath(const FileQuestion& question);
 
     // Pop-up items that every plot has.
     void ToggleStatistics();
@@ -173,6 +189,10 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     void ShowMenu();
     bool IsItemEnabled(int item) const;
     void SetFastDrawCaption();
+    void SetRegionCaptions();
+    SheetKey FormKey(std::string key, Twips (Form::*read)() const,
+                     std::function<void(Form& form, Twips value)> set);
+    SheetKey StatisticsPlaceKey(std::string_view axis, Twips (GridForm::*read)() const);
 
     PlotKind kind_;
     std::unique_ptr<Form> form_;

@@ -1,9 +1,8 @@
 // The pop-up menus of a plot and the items that every plot has.
-#include <filesystem>
-
 #include "core/Bitmap.h"
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/SaveQuestion.h"
 #include "plots/PlotWindow.h"
 
 namespace tessarin {
@@ -41,24 +40,30 @@ bool PlotWindow::AvaaTaiSuljeStatistics(std::string_view what) {
     if (tilasto_.AvaaTaiSulje(what)) {
         tekstit_.Aseta(kStatisticsItem,
                        tilasto_.OnkoAuki() ? "Close statistics" : "Open statistics");
-        PaivitaStatistiikka();
+        if (!Loading) {
+            PaivitaStatistiikka();
+        }
     }
     return true;
 }
 
 void PlotWindow::ToggleRegionLines() {
     AlueViivat = !AlueViivat;
-    tekstit_.Aseta(kRegionLinesItem,
-                   (AlueViivat ? "Hide " : "Show ") + std::string(kind_.region) + " lines");
+    SetRegionCaptions();
     Piirra();
 }
 
 void PlotWindow::ToggleOnlyHere() {
     VainTaallaLuodut = !VainTaallaLuodut;
-    const std::string regions = std::string(kind_.region) + "s";
-    tekstit_.Aseta(kOnlyHereItem, VainTaallaLuodut ? "Show all " + regions
-                                                   : "Show only " + regions + " created here");
+    SetRegionCaptions();
     Piirra();
+}
+
+void PlotWindow::SetRegionCaptions() {
+    const std::string region(kind_.region);
+    tekstit_.Aseta(kRegionLinesItem, (AlueViivat ? "Hide " : "Show ") + region + " lines");
+    tekstit_.Aseta(kOnlyHereItem, VainTaallaLuodut ? "Show all " + region + "s"
+                                                   : "Show only " + region + "s created here");
 }
 
 void PlotWindow::CopyToClipboard() {
@@ -72,7 +77,8 @@ void PlotWindow::CopyImage() {
 }
 
 void PlotWindow::SaveImage() {
-    const std::string path = AskSavePath({"Save the image", std::string(kind_.imageFilter)});
+    const std::string path = KysyTallennuspaikka(
+        main_.Services().dialogs, {"Save the image", std::string(kind_.imageFilter)});
     if (path.empty()) {
         return;
     }
@@ -80,17 +86,6 @@ void PlotWindow::SaveImage() {
     if (!failure.empty()) {
         main_.Services().dialogs.Message(failure, "Save the image");
     }
-}
-
-std::string PlotWindow::AskSavePath(const FileQuestion& question) {
-    Dialogs& dialogs = main_.Services().dialogs;
-    const std::string path = dialogs.SaveFile(question);
-    if (!path.empty() && std::filesystem::exists(path) &&
-        !dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
-                     QuestionButtons::kOkCancel)) {
-        return "";
-    }
-    return path;
 }
 
 void PlotWindow::InvertBackground() {

@@ -1,0 +1,69 @@
+#include "mainwindow/FileSaving.h"
+
+#include <optional>
+
+#include "core/FCSWriter.h"
+#include "core/FcsKeywords.h"
+#include "core/Muuttujat.h"
+#include "core/Numbers.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/SaveQuestion.h"
+
+namespace tessarin {
+namespace {
+
+// The slot of the active window's file; 0 without one.
+int16_t ActiveFile() {
+    return Ikkunat.Holds(ActiveWindow) ? Ikkunat(ActiveWindow).FileIndex : int16_t{0};
+}
+
+void Write(PaaIkkuna& main, const std::string& path, int16_t slot, const std::string& title) {
+    const std::string failure = KirjoitaFCS(path, slot);
+    if (!failure.empty()) {
+        main.Services().dialogs.Message(failure, title);
+    }
+}
+
+// Whether only the first of its events are in memory: overwriting it would lose the others.
+bool IsCutShort(const Tiedosto& file) {
+    const auto total = ParseWholeNumber(HaeAvainsana("\\$TOT", file.Otsikko.Text));
+    return total && *total > file.EventCount;
+}
+
+}  // namespace
+
+void FileSaveFCS(PaaIkkuna& main) {
+    const int16_t slot = ActiveFile();
+    if (slot == 0) {
+        return;
+    }
+    const std::string path =
+        KysyTallennuspaikka(main.Services().dialogs, {"Save as FCS file", "FCS files (*.*)|*.*"});
+    if (!path.empty()) {
+        Write(main, path, slot, "Save as FCS file");
+    }
+}
+
+void FileSaveFCSEiKysymysta(PaaIkkuna& main) {
+    const int16_t slot = ActiveFile();
+    if (slot == 0) {
+        return;
+    }
+    const Tiedosto& file = Tiedostot(slot);
+    Dialogs& dialogs = main.Services().dialogs;
+    if (file.Otsikko.Cytometer.find("Tessarin") == std::string::npos) {
+        dialogs.Message(
+            "The current FCS file has been created with some other than with Tessarin. To protect "
+            "your original data, please choose 'Save FCS as...' from File menu.",
+            "File protection");
+    } else if (IsCutShort(file)) {
+        dialogs.Message("Only the first " + std::to_string(file.EventCount) +
+                            " events of the file are loaded. To protect the others, please choose "
+                            "'Save FCS as...' from File menu.",
+                        "File protection");
+    } else {
+        Write(main, file.Path(), slot, "Save FCS");
+    }
+}
+
+}  // namespace tessarin

@@ -1,0 +1,21 @@
+#include "mainwindow/SaveQuestion.h"
+
+#include <filesystem>
+
+namespace tessarin {
+
+std::string KysyTallennuspaikka(Dialogs& dialogs, const FileQuestion& question) {
+    std::string path = dialogs.SaveFile(question);
+    if (!path.empty() && std::filesystem::path(path).extension().empty()) {
+        path += question.ending;
+    }
+    std::error_code error;
+    if (!path.empty() && std::filesystem::exists(path, error) &&
+        !dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
+                     QuestionButtons::kOkCancel)) {
+        return "";
+    }
+    return path;
+}
+
+}  // namespace tessarin

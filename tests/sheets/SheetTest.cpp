@@ -1,0 +1,418 @@
+// Analysis sheets and packages: what is saved comes back, and what is broken breaks nothing.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "core/Text.h"
+#include "mainwindow/WindowList.h"
+#include "plots/Statistics.h"
+#include "sheets/SheetKeys.h"
+#include "sheets/SheetStore.h"
+#include "tests/support/FcsBuilder.h"
+#include "tests/support/ProgramFixture.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace tessarin {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Bytes(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+class SheetTest : public ProgramTest {
+  protected:
+    SheetTest() { main.Kumppanit().views = &store_; }
+    ~SheetTest() override { main.Kumppanit().views = nullptr; }
+
+    std::string DataFile(const std::string& name, uint32_t seed) {
+        FcsBuilder built("I", 16, "4,3,2,1", 3, 40);
+        for (uint32_t i = 0; i < 120; ++i) {
+            built.AddInteger((i * 37 + seed) % 1024);
+        }
+        return folder_.Write(name, built.Bytes());
+    }
+    /// The text of a saved sheet, but for its date.
+    std::string Save(const std::string& command, const std::string& name) {
+        platform.dialogs.texts.push_back(folder_.Path(name));
+        Choose(command);
+        std::string text = Bytes(folder_.Path(name));
+        const auto date = text.find("general.date:");
+        return date == std::string::npos ? text : text.erase(date, text.find('\n', date) - date);
+    }
+    void Load(const std::string& path) {
+        platform.dialogs.texts.push_back(path);
+        Choose("FileOpenView");
+    }
+    std::vector<std::string> Info(int16_t id) { return *IkkunaPaikassa(id)->SaveInfo(); }
+    std::vector<std::vector<uint32_t>> Pictures() {
+        std::vector<std::vector<uint32_t>> pictures;
+        for (const ScriptedForm* form : platform.mainForm.children) {
+            pictures.push_back(form->surface.Image().pixels);
+        }
+        return pictures;
+    }
+    /// Four windows on two files, with regions, a marker, a definition and most settings changed.
+    void LayOut();
+
+    TemporaryFolder folder_;
+    SheetStore store_{main, false};
+};
+
+void SheetTest::LayOut() {
+    OletusKoko = {3000, 4500};
+    main.AvaaTiedosto(DataFile("one.fcs", 1));
+    main.AvaaTiedosto(DataFile("two.fcs", 500));
+    Choose("CreateHistogram");
+    Choose("CreateHistogram");
+    const auto& forms = platform.mainForm.children;
+    platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion);
+    for (const auto& [x, y] : {std::pair{41, 43}, {143, 37}, {151, 201}, {41, 43}}) {
+        forms[0]->Press(x, y);
+        forms[0]->Release(x, y);
+    }
+    platform.mainForm.events->PanelRowSelected(3);
+    platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion);
+    forms[2]->Press(141, 77);
+    forms[2]->Move(61, 91);
+    forms[2]->Release(61, 91);
+    Populaatiot(1).TitleX = -250;
+    Populaatiot(20).Defined = true;
+    Populaatiot(20).Name = "Poly-1 and not Histo-3";
+    Populaatiot(20).Transparent = true;
+    for (const int item : {1, 2, 3, 5, 6, 7, 12, 13}) {
+        ChoosePopup(*forms[1], item);
+    }
+    static_cast<Statistics&>(*IkkunatStat(2).Window).AsetaNakyvyys(3, 0);
+    IkkunaPaikassa(2)->LiikutaStatistiikkaLaatikkoa("x", 1230);
+    IkkunaPaikassa(2)->AsetaRegion("x", 1234);
+    platform.dialogs.texts = {"250", "0"};
+    platform.dialogs.colors = {{1, 2, 3}};
+    for (const int item : {1, 2, 3, 11, 12, 13}) {
+        ChoosePopup(*forms[3], item);
+    }
+    IkkunaPaikassa(1)->NaytaPopulaatio(1);
+    IkkunaPaikassa(4)->AsetaKanava("x", 3);
+    forms[0]->SetPlace({150}, {-45});
+    main.PiirraKaikki();
+}
+
+TEST_F(SheetTest, WhatIsSavedComesBack) {
+    LayOut();
+    IkkunaPaikassa(3)->UnloadWindow();  // leaves a gap between the windows
+    const std::string saved = Save("FileSaveView", "a.tessarin");
+    const auto before = Pictures();
+    const Populaatio region = Populaatiot(1);
+    ASSERT_TRUE(platform.dialogs.messages.empty());
+
+    PalautaAlkutila();
+    Populaatiot(7).Defined = true;  // of the session that goes
+    NewDotPlot();
+    Load(folder_.Path("a.tessarin"));
+    EXPECT_EQ(Pictures(), before);
+    EXPECT_EQ(Save("FileSaveView", "b.tessarin"), saved);
+    EXPECT_EQ(Populaatiot(1).X, region.X) << "to the last bit";
+    EXPECT_EQ(Populaatiot(1).Y, region.Y);
+    EXPECT_FALSE(Populaatiot(7).Defined);
+    EXPECT_FALSE(Ikkunat(3).Used) << "windows keep their numbers";
+    EXPECT_TRUE(Ikkunat(4).Selected && !Ikkunat(1).Selected) << "the last one alone";
+    EXPECT_FALSE(Loading);
+    ChoosePopup(*platform.mainForm.children[1], 18);
+    const auto& entries = platform.popups.lastEntries;
+    EXPECT_EQ(entries[1].caption, "Close statistics");
+    EXPECT_EQ(entries[2].caption, "Hide quadrant");
+    EXPECT_EQ(entries[6].caption, "Show all regions");
+    EXPECT_EQ(entries[13].caption, "Small dots");
+
+    // A name without ending gets one; a file that is there is asked about.
+    platform.dialogs.answers = {false};
+    Save("FileSaveView", "a");
+    EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
+}
+
+TEST_F(SheetTest, LinesStandInTheirOrder) {
+    LayOut();
+    EXPECT_EQ(Info(1).size(), 22U);
+    EXPECT_EQ(Info(2).size(), 34U);
+    EXPECT_EQ(Info(3).size(), 20U);
+    EXPECT_EQ(Info(4).size(), 31U);
+    EXPECT_EQ(Info(1)[0], "location.x:150");
+    EXPECT_EQ(Info(1)[7], "show:1");
+    EXPECT_EQ(Info(2)[12], "density.resolution:512");
+    EXPECT_EQ(Info(2)[22], "statistics.x:1230");
+    EXPECT_EQ(Info(2)[26], "statistics.column.3.visible:0");
+    EXPECT_EQ(Info(4)[7], "fill.red:1");
+    EXPECT_EQ(Info(4)[11], "yscale:250");
+    EXPECT_EQ(Info(4)[12], "smoothing:0");
+    const std::string text = Save("FileSaveView", "a.tessarin");
+    std::size_t at = 0;
+    for (const char* part :
+         {"# Tessarin Analysis sheet\n\ngeneral.version:1.2.1\n", "\n# Populations\ngeneral.max",
+          "numberofpopulations:16\npopulation.1.name:Poly-1\npopulation.1.type:Polygon\n",
+          "corners:3\npopulation.1.created:1\npopulation.1.title.x:-250\n", "transparent:0\n",
+          "corner.1.x:", "corner.1.y:", "population.3.type:Histogram\n", "\n# Definitions\ngeneral",
+          "definition.20.name:Poly-1 and not Histo-3\n", "\n# Files\nfile.1.path:", "one.fcs\n",
+          "\n# Windows\nwindow.1.type:DotPlot\nwindow.1.location.x:150\n", "window.4.type:Histo",
+          "\n# Print view\nprintview.visible:0\n\n# File info\nfileinfo.visible:0\n"}) {
+        at = text.find(part, at);
+        ASSERT_NE(at, std::string::npos) << part;
+    }
+}
+
+TEST_F(SheetTest, SheetsFromElsewhere) {
+    const std::string data = DataFile("sub.fcs", 3);
+    const std::string path = folder_.Write(
+        "old.tessarin",
+        "general.version:0.9.7\r\ngeneral.date:1,1\r\nfile.5.path:" + data +
+            "\r\npopulation.2.name:Zelle \xb5\r\npopulation.2.corner.1.x:12,5\r\n"
+            "population.3.name:with # sign\r\npopulation.3.type:Polygon\r\n"
+            "population.2.type:Poly:gon\r\n# window.9.type:DotPlot\r\nwindow.7.type:DotPlot\r\n"
+            "window.7.file:5\r\nwindow.7.location.x:30,4\r\nwindow.7.fastdraw.enabled:1\r\n"
+            "window.7.background:0\r\nwindow.7.dot.size:3\r\nwindow.7.density.resolution:64\r\n"
+            "window.7.no colon\r\nwindow.8.type:Histogram\r\nwindow.8.file:6");
+    Load(path);
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    EXPECT_EQ(Populaatiot(2).Name, "Zelle \xc2\xb5");
+    EXPECT_EQ(Populaatiot(2).X[1], 12.5F);
+    EXPECT_EQ(Populaatiot(3).Name, "") << "the line was a comment";
+    EXPECT_TRUE(Populaatiot(3).Defined);
+    EXPECT_EQ(Populaatiot(2).Type, "Poly") << "a value ends at the next colon";
+    EXPECT_FALSE(Ikkunat(9).Used);
+    EXPECT_EQ(Ikkunat(7).FileIndex, 5);
+    EXPECT_EQ(Info(7)[0], "location.x:30");
+    EXPECT_EQ(Info(7)[15], "fastdraw.enabled:1") << "also for a small file";
+    EXPECT_EQ(Info(7)[18], "dot.size:1");
+    EXPECT_TRUE(platform.mainForm.children[0]->surface.HasText("FAST DRAW MODE"));
+    EXPECT_EQ(platform.mainForm.children[0]->surface.PixelAt(2, 2), Grey(255).Pixel());
+    EXPECT_EQ(Ikkunat(8).FileIndex, 0) << "a slot without file";
+    EXPECT_EQ(platform.mainForm.children[1]->caption, "[S] (8): Histogram - No File");
+
+    fs::remove(data);
+    Load(path);
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text,
+              "The file '" + data + "'\nwas not in its original location.");
+    EXPECT_EQ(Ikkunat(7).FileIndex, 0);
+}
+
+TEST_F(SheetTest, WhatIsNoSheetLeavesTheSession) {
+    LayOut();
+    const std::string saved = Save("FileSaveView", "a.tessarin");
+    const auto expectStays = [&](const std::string& path, const std::string& title) {
+        const std::size_t told = platform.dialogs.messages.size();
+        Load(path);
+        ASSERT_EQ(platform.dialogs.messages.size(), told + 1) << path;
+        EXPECT_EQ(platform.dialogs.messages.back().title, title);
+        EXPECT_EQ(Save("FileSaveView", "b.tessarin"), saved) << path;
+    };
+    expectStays(folder_.Path("missing.tessarin"), "Load error");
+    expectStays(folder_.Path(), "Load error");
+    expectStays(folder_.Write("empty.tessarin", ""), "Load error");
+    expectStays(
+        folder_.Write("words.tessarin", std::string(3000, '\0') + "not:a sheet\n# window.1:"),
+        "Load error");
+    expectStays(folder_.Write("new.tessarin", "general.version:1.3.0\nwindow.1.type:DotPlot\n"),
+                "Wrong version");
+    EXPECT_TRUE(platform.dialogs.messages.back().text.starts_with(
+        "The analysis sheet you trying to open has been created with newer version of Tessarin "
+        "than you have.\nPlease, download the newest version from the address "));
+    expectStays(folder_.Write("newer.tessarin", "general.version:2.0.0\nwindow.1.type:DotPlot\n"),
+                "Wrong version");
+}
+
+TEST_F(SheetTest, HostileLinesArePassedOver) {
+    std::string text = "general.version:1.2\n";
+    for (const char* slot : {"0", "-1", "17", "99999999999", "x", "", "1e3", "2.5"}) {
+        for (const char* line :
+             {"population.$.name:P", "population.$.corners:50", "definition.$.name:P",
+              "file.$.path:/nowhere", "window.$.type:DotPlot", "window.$.axis.x:3",
+              "window.$.show:-7"}) {
+            text += KorvaaTeksti(line, "$", slot) + "\n";
+        }
+    }
+    text +=
+        "population.4.corners:51\npopulation.4.corners:-1\npopulation.4.corner.51.x:1\n"
+        "population.4.corner.0.x:1\npopulation.4.corner.1.x:1e300\npopulation.4.axis.x:99999\n"
+        "population.4.color.red:256\npopulation.4.transparent:2\npopulation.4.type:Polygon\n"
+        "window.3.axis.x:5\nwindow.3.type:Histogram\nwindow.2.type:Teapot\nwindow.2.show:1\n"
+        "window.5.type:Histogram\nwindow.5.yscale:-3\nwindow.5.smoothing:-1\nwindow.5.size.x:nan\n"
+        "window.5.size.y:99999999999\nwindow.5.axis.x:-5\nwindow.5.show:500\nwindow.5.file:-4\n"
+        "window.5.statistics.x:5\nwindow.5.statistics.column.1.visible:1\nwindow.5\nwindow\n.\n:\n"
+        "window.6.type:DotPlot\nwindow.5.type:DotPlot\nwindow.5.location.x:75\nprintview.a:1\n"
+        "window.6.quadrant.x:1e99\nfileinfo.visible:1\ngeneral.style:nothing\n";
+    Load(folder_.Write("hostile.tessarin", text));
+    EXPECT_EQ(std::count_if(Ikkunat.begin(), Ikkunat.end(), [](const auto& i) { return i.Used; }),
+              3);
+    EXPECT_TRUE(Ikkunat(17).Used) << "the one number of a window that makes sense";
+    EXPECT_EQ(Populaatiot(4).Corners, 0);
+    EXPECT_FALSE(Populaatiot(4).Transparent);
+    EXPECT_EQ(Info(5)[0], "location.x:75") << "a second type line for a window is none";
+    EXPECT_EQ(Info(5)[12], "smoothing:2");
+    EXPECT_EQ(Ikkunat(5).FileIndex, 0);
+    EXPECT_EQ(platform.mainForm.status,
+              "Windows of kinds that are not known here were left out: Teapot");
+    main.AvaaTiedosto(DataFile("one.fcs", 1));
+    main.PiirraKaikki();
+}
+
+TEST_F(SheetTest, PackagesCarryTheirFiles) {
+    fs::create_directory(folder_.Path("other"));
+    const std::string one = Bytes(DataFile("tube.fcs", 1));
+    const std::string two = Bytes(DataFile("other/tube.fcs", 2));
+    main.AvaaTiedosto(folder_.Path("tube.fcs"));
+    main.AvaaTiedosto(folder_.Path("other/tube.fcs"));
+    const std::string package = Save("MenuSaveAnalysisPackage", "p.tessarin");
+    EXPECT_TRUE(package.ends_with("\n\ncontent:" + one + two));
+    EXPECT_NE(package.find("general.style:package\n"), std::string::npos);
+    EXPECT_NE(package.find("file.2.length:" + std::to_string(two.size()) + "\n"),
+              std::string::npos);
+
+    const std::string there = folder_.Path("moved/");
+    fs::create_directory(there);
+    fs::copy(folder_.Path("p.tessarin"), there);
+    fs::remove_all(folder_.Path("other"));
+    Load(there + "p.tessarin");
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    EXPECT_EQ(Bytes(there + "tube.fcs"), one);
+    EXPECT_EQ(Bytes(there + "tube-2.fcs"), two) << "two files of one name do not mix";
+    EXPECT_EQ(Tiedostot(2).Path(), there + "tube-2.fcs");
+    EXPECT_EQ(Ikkunat(2).FileIndex, 2);
+    const auto written = fs::last_write_time(there + "tube.fcs");
+    Load(there + "p.tessarin");
+    EXPECT_EQ(fs::last_write_time(there + "tube.fcs"), written);
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+
+    std::ofstream(there + "tube.fcs", std::ios::binary) << one.substr(0, one.size() - 1) << 'x';
+    Load(there + "p.tessarin");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U) << "other contents are told";
+    EXPECT_EQ(Bytes(there + "tube.fcs").back(), 'x') << "and never overwritten";
+
+    // A file that has changed or gone since cannot be packed; the old package stays.
+    const std::string old = Bytes(there + "p.tessarin");
+    fs::remove(there + "tube-2.fcs");
+    platform.dialogs.texts.push_back(there + "p.tessarin");
+    Choose("MenuSaveAnalysisPackage");
+    EXPECT_EQ(platform.dialogs.messages.size(), 2U);
+    EXPECT_EQ(Bytes(there + "p.tessarin"), old);
+}
+
+TEST_F(SheetTest, PackagesStayInTheirFolder) {
+    const std::string there = folder_.Path("in/");
+    fs::create_directory(there);
+    const std::vector<std::pair<std::string, std::string>> lies = {
+        {"../out.fcs", "3"}, {"/tmp/tessarin-out.fcs", "3"},
+        {"..", "3"},         {"a\\b.fcs", "3"},
+        {"", "3"},           {std::string("n\0.fcs", 6), "3"},
+        {"long.fcs", "400"}, {"less.fcs", "-3"},
+        {"nan.fcs", "nan"},  {"huge.fcs", "9e18"}};
+    std::string text = "general.version:1.2.1\ngeneral.style:package\n";
+    for (const auto& [name, length] : lies) {
+        text += "file.1.name:" + name + "\nfile.1.length:" + length + "\n";
+    }
+    std::ofstream(there + "p.tessarin", std::ios::binary)
+        << text << "window.1.type:DotPlot\ncontent:" << std::string(60, 'z');
+    Load(there + "p.tessarin");
+    EXPECT_EQ(platform.dialogs.messages.size(), lies.size());
+    EXPECT_EQ(std::distance(fs::directory_iterator(there), {}), 1) << "nothing was written";
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 1);
+    EXPECT_TRUE(Ikkunat(1).Used);
+}
+
+TEST_F(SheetTest, EventsDuringLoadingFindNoHalfSession) {
+    LayOut();
+    Save("FileSaveView", "a.tessarin");
+    platform.loop.atNextYield = [this] {
+        EXPECT_TRUE(Loading);
+        Choose("CreateDotPlot");
+        platform.mainForm.events->CloseRequested();
+        main.LataaNakyma(folder_.Path("a.tessarin"));
+        platform.mainForm.events->FilesDropped({folder_.Path("one.fcs")});
+        platform.mainForm.children[0]->Close();
+    };
+    Load(folder_.Path("a.tessarin"));
+    EXPECT_FALSE(Ikkunat(1).Used) << "a window may go while others come";
+    EXPECT_EQ(platform.mainForm.children.size(), 3U);
+    EXPECT_FALSE(Closing);
+}
+
+class AutosaveTest : public SheetTest {
+  protected:
+    AutosaveTest() { platform.programFolder = folder_.Path(); }
+
+    /// A program started in that folder, as main does it.
+    struct Program {
+        explicit Program(ScriptedPlatform& platform)
+            : main(platform.Services()), store(main, true) {
+            main.Kumppanit().views = &store;
+            main.Kaynnista();
+        }
+        PaaIkkuna main;
+        SheetStore store;
+    };
+    std::string file_ = folder_.Path("autosave.tessarin");
+};
+
+TEST_F(AutosaveTest, EveryStepIsOnDiskUntilTheProgramEnds) {
+    const std::string data = DataFile("one.fcs", 1);
+    {
+        Program first(platform);
+        EXPECT_TRUE(platform.dialogs.questions.empty());
+        EXPECT_FALSE(fs::exists(file_));
+        first.main.AvaaTiedosto(data);
+        EXPECT_NE(Bytes(file_).find("window.1.type:DotPlot"), std::string::npos);
+        ChoosePopup(LastForm(), 3);
+        EXPECT_NE(Bytes(file_).find("density.enabled:1"), std::string::npos);
+        PalautaAlkutila();  // killed: nothing is put away
+    }
+    platform.dialogs.answers = {false};
+    {
+        Program second(platform);
+        EXPECT_EQ(platform.dialogs.questions.back().text,
+                  "Tessarin was not closed properly. You want to recover the view?");
+        EXPECT_EQ(platform.dialogs.questions.back().title, "Recovery");
+        EXPECT_FALSE(Ikkunat(1).Used);
+        EXPECT_TRUE(fs::exists(file_)) << "it stays until the next step";
+        PalautaAlkutila();
+    }
+    Program third(platform);
+    EXPECT_EQ(Info(1)[11], "density.enabled:1");
+    EXPECT_EQ(Tiedostot(1).Path(), data);
+    third.main.Command("FileExit");
+    EXPECT_FALSE(fs::exists(file_));
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, ProgramsSideBySideKeepTheirOwn) {
+    folder_.Write("autosave.tessarin", "of the other");
+    platform.locks.others = {file_ + ".lock"};
+    folder_.Write("autosave.tessarin.lock", "");
+    Program program(platform);
+    EXPECT_TRUE(platform.dialogs.questions.empty());
+    program.main.Command("CreateDotPlot");
+    EXPECT_EQ(Bytes(file_), "of the other");
+    EXPECT_TRUE(fs::exists(folder_.Path("autosave-2.tessarin")));
+    program.main.Command("FileExit");
+    EXPECT_EQ(Bytes(file_), "of the other");
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, FailuresAreToldOnceAndWorkGoesOn) {
+    Program program(platform);
+    fs::remove_all(folder_.Path());
+    program.main.Command("CreateDotPlot");
+    program.main.Command("CreateHistogram");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "An error occured during the saving!");
+    fs::create_directory(folder_.Path());
+    program.main.Command("CreateDotPlot");
+    EXPECT_TRUE(fs::exists(file_));
+    PalautaAlkutila();
+}
+
+}  // namespace
+}  // namespace tessarin

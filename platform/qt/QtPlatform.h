@@ -23,13 +23,14 @@ class QtPlatform {
     struct Options {
         bool headless = false;
         std::string programFolder;  ///< ends in "/"
-        std::string dataFolder;     ///< likewise, or empty
         std::string printerPath;    ///< headless: the PDF file that is printed to; empty for none
         // Taken instead of the ones on the screen; nullptr for those. They must outlive this.
         Dialogs* dialogs = nullptr;
         Clipboard* clipboard = nullptr;
         PopupMenus* popups = nullptr;
         Browser* browser = nullptr;
+
+        std::string dataFolder{};  ///< the user's folder for data, ends in "/", or empty
     };
 
     /// REQUIRES: the QApplication exists and outlives this.

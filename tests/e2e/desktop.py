@@ -71,7 +71,7 @@ class Desktop:
     def __exit__(self, *_):
         for program in self._programs:
             program.kill()
-            program.communicate()
+            program.wait()
         self._server.terminate()
         self._server.wait()
         self._folder.cleanup()

@@ -4,6 +4,7 @@ Usage: end_to_end_test.py PROGRAM. Ends with status 77 where the display program
 """
 
 import os
+import shutil
 import struct
 import sys
 import tempfile
@@ -37,6 +38,8 @@ class EndToEnd(unittest.TestCase):
         self.desktop = Desktop()
         self.desktop.__enter__()
         self.addCleanup(self.desktop.__exit__, None, None, None)
+        # The program keeps its autosave beside itself, and these tests leave it by killing it.
+        self.installed = shutil.copy(PROGRAM, self.folder.name)
 
     def file(self, name, events):
         path = os.path.join(self.folder.name, name)
@@ -45,7 +48,7 @@ class EndToEnd(unittest.TestCase):
         return path
 
     def start(self, *words):
-        self.program = self.desktop.start(PROGRAM, *words)
+        self.program = self.desktop.start(self.installed, *words)
         self.main = self.desktop.wait_for_window("Tessarin v. 1.2.1")
         return self.main
 
@@ -110,17 +113,11 @@ class EndToEnd(unittest.TestCase):
         desktop.until(lambda: self.count(WHITE, (0, 0, 500, 560)) > 120000, "a larger plot")
 
         # Leaving: first not, then yes.
-        desktop.click(18, 9)
-        desktop.key("Up", "Return")
-        desktop.wait_for_window("Exit the program")
-        desktop.key("Escape")
+        self.exit_by_menu("Escape")
         desktop.until(lambda: not desktop.windows("Exit the program"), "the question to go")
         self.assertIsNone(self.program.poll())
         desktop.do("windowfocus", "--sync", self.main)
-        desktop.click(18, 9)
-        desktop.key("Up", "Return")
-        desktop.wait_for_window("Exit the program")
-        desktop.key("Return")
+        self.exit_by_menu("Return")
         _, complaints = self.program.communicate(timeout=20)
         self.assertEqual((self.program.returncode, complaints.decode()), (0, ""))
 
@@ -153,6 +150,34 @@ class EndToEnd(unittest.TestCase):
         desktop.wait_for_window("Delete population")
         desktop.key("Return")
         desktop.until(lambda: self.count(RED, plot) == 0, "the region to go")
+
+    def test_a_killed_program_offers_its_session_again(self):
+        desktop = self.desktop
+        second = (280, 0, 600, 300)
+        self.start(self.file("a.fcs", [(500, 500)]))
+        self.wait_for_plot()
+        desktop.key("ctrl+h")
+        desktop.until(lambda: self.count_black(second) > 40000, "a histogram")
+        self.assertGreater(self.count(0xFF0000, second), 10)
+        autosave = os.path.join(self.folder.name, "autosave.tessarin")
+        desktop.until(lambda: os.path.exists(autosave), "the autosave")
+        self.program.kill()
+        self.program.wait()
+
+        self.program = desktop.start(self.installed)
+        desktop.wait_for_window("Recovery")
+        desktop.key("Return")  # Yes
+        desktop.until(lambda: self.count(0xFF0000, second) > 10, "the histogram again")
+        self.main = desktop.wait_for_window("Tessarin v. 1.2.1")
+        self.exit_by_menu("Return")
+        self.assertEqual(self.program.wait(timeout=20), 0)
+        self.assertFalse(os.path.exists(autosave))
+
+    def exit_by_menu(self, answer):
+        self.desktop.click(18, 9)
+        self.desktop.key("Up", "Return")
+        self.desktop.wait_for_window("Exit the program")
+        self.desktop.key(answer)
 
     def press_in_panel(self, x, y):
         # The panel slides open under the mouse.

@@ -102,7 +102,7 @@ TEST(QtPrinter, WithoutAFileThereIsNoneToChoose) {
 TEST(QtPlatform, TakesTheServicesThatItIsGiven) {
     QtClipboard clipboard;
     QtBrowser browser;
-    QtPlatform platform({true, "folder/", "", "", nullptr, &clipboard, nullptr, &browser});
+    QtPlatform platform({true, "folder/", "", nullptr, &clipboard, nullptr, &browser});
     EXPECT_EQ(&platform.Services().clipboard, &clipboard);
     EXPECT_EQ(&platform.Services().browser, &browser);
     EXPECT_NE(dynamic_cast<QtDialogs*>(&platform.Services().dialogs), nullptr);

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <set>
 
+#include "core/FCSReader.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/FileNavigation.h"
 #include "mainwindow/WindowList.h"
@@ -240,6 +241,38 @@ TEST_F(FileLoadingTest, OpensIntoANewWindowOrTheSelectedOnes) {
     EXPECT_EQ(Ikkunat(1).FileIndex, 2) << "shared, not read again";
     EXPECT_FALSE(Tiedostot(1).Valid) << "no window shows it any more";
     EXPECT_TRUE(platform.dialogs.messages.empty());
+}
+
+TEST_F(FileLoadingTest, SavesFcsAndProtectsTheOriginals) {
+    Choose("FileSaveFCS");
+    Choose("FileSaveFCSEiKysymysta");
+    EXPECT_TRUE(platform.dialogs.questions.empty()) << "no window, nothing to save";
+    const std::string original = Write("a.fcs", 5);
+    OpenFcs(original);
+    const auto save = [&](const std::string& command, const std::string& path) {
+        platform.dialogs.texts = {path};
+        platform.dialogs.messages.clear();
+        Choose(command);
+        return platform.dialogs.messages.empty() ? "" : platform.dialogs.messages[0].title;
+    };
+    EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "File protection");
+    EXPECT_TRUE(platform.dialogs.messages[0].text.starts_with("The current FCS file has been "));
+    const std::string own = folder_.Path("own.fcs");
+    EXPECT_EQ(save("FileSaveFCS", own), "");
+    EXPECT_EQ(Tiedostot(1).Path(), original) << "the window goes on showing what it showed";
+    EXPECT_EQ(save("FileSaveFCS", folder_.Path("missing/x.fcs")), "Save as FCS file");
+    platform.dialogs.answers = {false};
+    EXPECT_EQ(save("FileSaveFCS", original), "");
+    EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
+
+    OpenFcs(own);
+    Tiedostot(Ikkunat(1).FileIndex).RawData(2, 1) = 99;
+    EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "");
+    EXPECT_EQ(LueFCS(own).Data(2, 1), 99) << "its own file is overwritten";
+    MaxLoadedEvents = 3;
+    Tiedostot(Ikkunat(1).FileIndex) = LueFCS(own);
+    EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "File protection") << "two events not loaded";
+    EXPECT_EQ(std::filesystem::file_size(own), 3000U + 5 * 2 * 4);
 }
 
 TEST_F(FileLoadingTest, RefusedFilesChangeNothing) {

@@ -105,7 +105,9 @@ std::string CellText(std::string_view cell) {
     return DecodeText(KorvaaTeksti(cell.substr(1, cell.size() - 2), "\"\"", "\""));
 }
 
-std::optional<double> CellNumber(std::string_view cell) {
+// `comma` becomes True when the number had a decimal comma.
+std::optional<double> CellNumber(std::string_view cell, bool& comma) {
+    comma = false;
     if (IsQuoted(cell)) {
         cell = cell.substr(1, cell.size() - 2);
     }
@@ -117,7 +119,9 @@ std::optional<double> CellNumber(std::string_view cell) {
     }
     std::string withPoint(cell);
     withPoint[withPoint.find(',')] = '.';
-    return ParseNumber(withPoint);
+    const auto read = ParseNumber(withPoint);
+    comma = read.has_value();
+    return read;
 }
 
 // One reading of one table; its steps stand in the order in which they run.
@@ -137,8 +141,9 @@ class TxtReading {
         PathParts path = SplitPath(path_);
         file_.FileName = std::move(path.name);
         file_.Folder = std::move(path.folder);
-        // 0 would mark the slot as free.
+        // 0, which the sum of a small table can be, would mark the slot as free.
         file_.Fingerprint = std::max(1, TiedostonSormenjalki(path_));
+        file_.Oddities = Oddities();
         file_.Valid = true;
         return {std::move(file_), badCells_};
     }
@@ -171,9 +176,11 @@ class TxtReading {
 
     bool SizeTables() {
         int64_t rows = 0;
-        for (Lines rest = lines_; !rest.AtEnd() && rows < MaxLoadedEvents; rest.Next()) {
+        for (Lines rest = lines_; !rest.AtEnd(); rest.Next()) {
             ++rows;
         }
+        rows_ = rows;
+        rows = std::min<int64_t>(rows, MaxLoadedEvents);
         if (!OvatkoTaulutJarkevat(rows, file_.ChannelCount, text_.size())) {
             return false;
         }
@@ -192,17 +199,36 @@ class TxtReading {
             file_.RowNames(event) = CellText(cells.Next());
         }
         for (int channel = 1; channel <= file_.ChannelCount; ++channel) {
-            const auto number = cells.AtEnd() ? std::optional<double>() : CellNumber(cells.Next());
+            bool comma = false;
+            const auto number =
+                cells.AtEnd() ? std::optional<double>() : CellNumber(cells.Next(), comma);
             badCells_ += number ? 0 : 1;
+            commaCells_ += comma ? 1 : 0;
             file_.RawData(event, channel) = static_cast<float>(number.value_or(0));
         }
+    }
+
+    // What may have been meant otherwise than it was read.
+    std::string Oddities() const {
+        std::string text;
+        if (rows_ > file_.EventCount) {
+            text = "only the first " + std::to_string(file_.EventCount) + " of " +
+                   std::to_string(rows_) + " rows are loaded";
+        }
+        if (commaCells_ > 0) {
+            text += (text.empty() ? "" : "; ") + std::to_string(commaCells_) +
+                    " cells had a comma, which was read as the decimal point";
+        }
+        return text;
     }
 
     std::string path_;
     std::string text_;
     Lines lines_;
     Tiedosto file_;
+    int64_t rows_ = 0;
     int64_t badCells_ = 0;
+    int64_t commaCells_ = 0;
 };
 
 }  // namespace

@@ -21,7 +21,7 @@ struct TxtTulos {
 /// holds row names. Lines end in CR LF or LF, the last one perhaps in nothing; a byte order mark is
 /// passed over; a cell may stand in quotes; a comma stands for the decimal point where the cell is
 /// otherwise no number. Cells beyond the titles are left out. At most `MaxLoadedEvents` rows are
-/// read.
+/// read. Rows left out and decimal commas are told in `Oddities`.
 /// Failure: `file.Valid` is False for a file that cannot be read, is empty, has no channel or more
 /// than 32767, or whose tables cannot be had in memory.
 TxtTulos LueTXT(const std::string& path);

@@ -1,5 +1,6 @@
 #include "mainwindow/FileLoading.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 #include <vector>
@@ -17,10 +18,10 @@ namespace {
 
 // The slot of a file that is loaded already; 0 when it is not.
 int16_t LoadedSlot(const std::string& path) {
-    const int32_t fingerprint = TiedostonSormenjalki(path);
+    const int32_t fingerprint = std::max(1, TiedostonSormenjalki(path));  // 0 marks a free slot
     for (int16_t slot = 1; slot <= MaxFiles; ++slot) {
         const Tiedosto& file = Tiedostot(slot);
-        if (fingerprint != 0 && file.Fingerprint == fingerprint && file.Path() == path) {
+        if (file.Fingerprint == fingerprint && file.Path() == path) {
             return slot;
         }
     }
@@ -36,9 +37,13 @@ int16_t FreeSlot() {
     return 0;
 }
 
-// Reads a text table, puts it on the clipboard, and tells of cells that were no numbers.
+// Reads a text table. While the user opens it by hand it also goes to the clipboard, and cells
+// that were no numbers are told; a sheet that names it has been through that.
 Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
     TxtTulos read = LueTXT(path);
+    if (Loading) {
+        return std::move(read.file);
+    }
     if (read.file.Valid) {
         Clipboard& clipboard = main.Services().clipboard;
         clipboard.Clear();
@@ -109,6 +114,12 @@ std::string Ending(const std::string& path) {
     return ending;
 }
 
+// Files left without a window go, whatever came of the opening.
+void EndOpening(PaaIkkuna& main) {
+    VapautaKayttamattomat();
+    main.TalletaNakyma("Autosave");
+}
+
 std::vector<int16_t> SelectedWindows() {
     std::vector<int16_t> selected;
     for (int16_t id = 1; id <= MaxWindows; ++id) {
@@ -117,6 +128,15 @@ std::vector<int16_t> SelectedWindows() {
         }
     }
     return selected;
+}
+
+void Open(PaaIkkuna& main, const FileQuestion& question, LukuTapa way) {
+    const std::string path = main.Services().dialogs.OpenFile(question);
+    if (path.empty()) {
+        EndOpening(main);
+    } else {
+        AvaaValittuihin(main, path, way);
+    }
 }
 
 }  // namespace
@@ -139,19 +159,15 @@ bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t
 }
 
 void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path, LukuTapa way) {
-    const int16_t id = VapaaIkkunaPaikka();
-    if (id == 0) {
-        return;
-    }
     // The file comes first, so that a refused one leaves no empty window.
-    const int16_t slot = FindOrRead(main, path, way);
-    if (slot == 0) {
-        return;
+    const int16_t id = VapaaIkkunaPaikka();
+    const int16_t slot = id == 0 ? int16_t{0} : FindOrRead(main, path, way);
+    if (slot != 0) {
+        TellOddities(main, slot);
+        CurrentFile = slot;  // which the new window shows by itself
+        LuoIkkunaPaikkaan(main, "DotPlot", id);
     }
-    TellOddities(main, slot);
-    CurrentFile = slot;  // which the new window shows by itself
-    LuoIkkunaPaikkaan(main, "DotPlot", id);
-    main.TalletaNakyma("Autosave");
+    EndOpening(main);
 }
 
 void AvaaValittuihin(PaaIkkuna& main, const std::string& path, LukuTapa way) {
@@ -166,8 +182,7 @@ void AvaaValittuihin(PaaIkkuna& main, const std::string& path, LukuTapa way) {
             break;
         }
     }
-    VapautaKayttamattomat();
-    main.TalletaNakyma("Autosave");
+    EndOpening(main);
 }
 
 LukuTapa TavallinenLukuTapa(const std::string& path) {
@@ -179,19 +194,11 @@ bool OnkoNakyma(const std::string& path) {
 }
 
 void FileOpenFCS(PaaIkkuna& main) {
-    const std::string path =
-        main.Services().dialogs.OpenFile({"Open FCS file", "FCS files (*.*)|*.*"});
-    if (!path.empty()) {
-        AvaaValittuihin(main, path, LukuTapa::kFcs);
-    }
+    Open(main, {"Open FCS file", "FCS files (*.*)|*.*"}, LukuTapa::kFcs);
 }
 
 void FileOpenTXT(PaaIkkuna& main) {
-    const std::string path = main.Services().dialogs.OpenFile(
-        {"Open Tabbed TXT file", "Tabbed TXT files (*.txt)|*.txt"});
-    if (!path.empty()) {
-        AvaaValittuihin(main, path, LukuTapa::kTxt);
-    }
+    Open(main, {"Open Tabbed TXT file", "Tabbed TXT files (*.txt)|*.txt"}, LukuTapa::kTxt);
 }
 
 }  // namespace tessarin

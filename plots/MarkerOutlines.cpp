@@ -17,7 +17,7 @@ void UpdateTitleBase(Populaatio& marker) {
 }  // namespace
 
 MarkerPlace MarkkerinPaikka(const PlotArea& area, const Populaatio& marker) {
-    const double height = static_cast<double>(marker.Y[1]);
+    const auto height = static_cast<double>(marker.Y[1]);
     const PixelPoint first = area.ToPixel({static_cast<double>(marker.X[1]), height});
     const PixelPoint second = area.ToPixel({static_cast<double>(marker.X[2]), height});
     return {first.x, second.x, first.y};

@@ -52,9 +52,13 @@ void Kvadrantti::PiirraLiikkuva(Kuva& surface, const PlotArea& area, PixelPoint 
 }
 
 void Kvadrantti::Pudota(const PlotArea& area, PixelPoint mouse) {
-    const GridPoint place = area.ToGrid(Inside(area, mouse));
-    KvadranttiX = ToInt32(Rounded(place.x));
-    KvadranttiY = ToInt32(Rounded(place.y));
+    const PixelPoint place = Inside(area, mouse);
+    // Multiplied first, so that the middle between two grid places is met exactly.
+    const auto toGrid = [](double distance, double length) {
+        return length == 0 ? 0 : ToInt32(Rounded(kGrid * distance / length));
+    };
+    KvadranttiX = toGrid(place.x - area.Left(), area.XLength());
+    KvadranttiY = toGrid(place.y - area.Top(), area.YLength());
     ViimeKvadranttiX = KvadranttiX;
     ViimeKvadranttiY = KvadranttiY;
     KvadranttiLiikkuu = false;

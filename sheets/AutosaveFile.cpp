@@ -14,7 +14,7 @@ std::string Name(const std::string& folder, int number) {
 // The first free one in the folder, of those that are there or of all.
 std::string Take(Locks& locks, const std::string& folder, bool there) {
     for (int number = 1; number <= kMost; ++number) {
-        const std::string path = Name(folder, number);
+        std::string path = Name(folder, number);
         std::error_code error;
         if (std::filesystem::exists(path, error) != there) {
             continue;
@@ -34,7 +34,7 @@ std::string Take(Locks& locks, const std::string& folder, bool there) {
 std::string VaraaAutosave(const Platform& platform) {
     for (const bool there : {true, false}) {
         for (const std::string& folder : {platform.programFolder, platform.dataFolder}) {
-            const std::string path = folder.empty() ? "" : Take(platform.locks, folder, there);
+            std::string path = folder.empty() ? "" : Take(platform.locks, folder, there);
             if (!path.empty()) {
                 return path;
             }

@@ -218,6 +218,7 @@ void SelectOne() {
     for (int16_t id = MaxWindows; id >= 1; --id) {
         if (Ikkunat(id).Used && Ikkunat(id).Selectable) {
             Ikkunat(id).Selected = true;
+            ActiveWindow = id;  // commands that go to the active window go to this one
             PaivitaKehysOtsikko(id);
             return;
         }

@@ -67,7 +67,11 @@ TEST_F(TxtReaderTest, HostileTablesAreRefusedOrOpenSmall) {
     EXPECT_EQ(Read("A\n" + std::string(10 << 20, '9') + "\n").badCells, 1);
     EXPECT_EQ(Read(std::string("A\n\0\n5\0\n", 7)).file.Data(2, 1), 5);
     MaxLoadedEvents = 2;
-    EXPECT_EQ(Read("A\n1\n2\n3\n").file.EventCount, 2);
+    const Tiedosto cut = Read("A\n1\n2\n3,5\n").file;
+    EXPECT_EQ(cut.EventCount, 2);
+    EXPECT_EQ(cut.Oddities, "only the first 2 of 3 rows are loaded");
+    EXPECT_EQ(Read("A\n1\n2,5\n").file.Oddities,
+              "1 cells had a comma, which was read as the decimal point");
 }
 
 // Damages a good table at random places: a byte, a stretch repeated, cut out, or a telling text

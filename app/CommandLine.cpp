@@ -50,6 +50,15 @@ bool TakeFcsSave(std::vector<FcsSave>& saves, const std::string& value) {
     return true;
 }
 
+bool TakeAnswer(std::map<std::string, std::string>& answers, const std::string& value) {
+    const std::size_t equals = value.find('=');
+    if (equals == std::string::npos || equals == 0) {
+        return false;
+    }
+    answers[value.substr(0, equals)] = value.substr(equals + 1);
+    return true;
+}
+
 bool TakePath(std::string& path, const std::string& value) {
     path = value;
     return !value.empty();
@@ -68,6 +77,14 @@ constexpr std::array kOptions = {
            }},
     Option{"--neg-bumper", "", "use the neg value bumper",
            [](CommandLine& line, const std::string&) { return line.negBumper = true; }},
+    Option{"--run", "TOOL", "run a tool",
+           [](CommandLine& line, const std::string& value) { return TakePath(line.tool, value); }},
+    Option{"--answer", "NAME=TEXT", "answer the tool's question for that variable",
+           [](CommandLine& line, const std::string& value) {
+               return TakeAnswer(line.answers, value);
+           }},
+    Option{"--pack", "TOOL", "write a tool packed to FILE, and nothing else",
+           [](CommandLine& line, const std::string& value) { return TakePath(line.pack, value); }},
     Option{"--save-sheet", "FILE", "save the session as an analysis sheet",
            [](CommandLine& line, const std::string& value) { return TakePath(line.sheet, value); }},
     Option{

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <span>
 #include <string>
@@ -28,6 +29,9 @@ struct CommandLine {
     std::optional<int32_t> maxEvents;
     std::optional<int32_t> fastDrawLimit;
     bool negBumper = false;
+    std::string tool;                            ///< the tool to run; empty for none
+    std::map<std::string, std::string> answers;  ///< to its questions, by variable
+    std::string pack;                            ///< a tool to be packed into the one file
     std::string snapshot;            ///< where to put a picture of the main window; empty for none
     std::string sheet;               ///< where to save the session as a sheet; empty for nowhere
     std::vector<FcsSave> fcs;        ///< in order

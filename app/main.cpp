@@ -20,6 +20,9 @@
 #include "plots/RegisterPlots.h"
 #include "sheets/SheetStore.h"
 #include "sheets/SheetWriter.h"
+#include "tools/AnswerToolUser.h"
+#include "tools/ToolPack.h"
+#include "tools/ToolRun.h"
 
 namespace tessarin {
 namespace {
@@ -48,6 +51,28 @@ void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
     }
 }
 
+bool Told(const std::string& failure) {
+    if (!failure.empty()) {
+        std::cerr << "tessarin: " << failure << std::endl;
+    }
+    return failure.empty();
+}
+
+// False when the run was aborted.
+bool RunTool(PaaIkkuna& main, const CommandLine& line) {
+    if (line.tool.empty()) {
+        return true;
+    }
+    const Tyokalu tool = LueTyokalu(line.tool);
+    if (!tool.Valid) {
+        return Told("the tool " + line.tool + " could not be read");
+    }
+    Dialogs& dialogs = main.Services().dialogs;
+    DialogToolUser atTheScreen(dialogs);
+    AnswerToolUser user(line.answers, dialogs, line.headless ? nullptr : &atTheScreen, std::cerr);
+    return ToolRun(main, {user}).AjaOhjelma(tool.text);
+}
+
 // False, with a word on standard error, when a window is not there.
 bool ChooseMenuItems(const CommandLine& line) {
     for (const MenuChoice& choice : line.menu) {
@@ -59,13 +84,6 @@ bool ChooseMenuItems(const CommandLine& line) {
         window->MenuValintaReaktio(choice.item);
     }
     return true;
-}
-
-bool Told(const std::string& failure) {
-    if (!failure.empty()) {
-        std::cerr << "tessarin: " << failure << std::endl;
-    }
-    return failure.empty();
 }
 
 bool SaveSheet(const PaaIkkuna& main, const std::string& path) {
@@ -145,6 +163,7 @@ int Run(const CommandLine& line) {
         main.Command("KaytaNegAbsJuttua");
     }
     OpenFiles(main, line);
+    const bool ran = RunTool(main, line);
     const bool chosen = ChooseMenuItems(line);
     const bool sheet = SaveSheet(main, line.sheet);
     const bool fcs = SaveFcs(line);
@@ -153,7 +172,21 @@ int Run(const CommandLine& line) {
     const int status = line.headless ? kDone : platform.Loop().Run();
     const bool told = !nobody.dialogs.messages.empty();
     PalautaAlkutila();  // the windows go before the platform that shows them
-    return chosen && sheet && fcs && pictured && copied && !told ? status : kFailed;
+    return ran && chosen && sheet && fcs && pictured && copied && !told ? status : kFailed;
+}
+
+// Packs a tool; the only file on the command line is where it goes.
+int Pack(const CommandLine& line) {
+    const Tyokalu tool = LueTyokalu(line.pack);
+    if (line.files.size() != 1 || !tool.Valid) {
+        Told(tool.Valid ? "--pack needs one FILE to write" : "there is no file " + line.pack);
+        return kWrongUsage;
+    }
+    return Told(WriteWhole(line.files[0], TeePaketti(tool.text))
+                    ? ""
+                    : "the pack could not be written to " + line.files[0])
+               ? kDone
+               : kFailed;
 }
 
 // The status to end with at once, or -1 to go on.
@@ -170,7 +203,14 @@ int AnswerWithoutWindow(const CommandLine& line) {
         std::cout << "Tessarin " << ProgramVersionText << std::endl;
         return kDone;
     }
-    for (const std::string& file : line.files) {
+    if (!line.pack.empty()) {
+        return Pack(line);
+    }
+    std::vector<std::string> needed = line.files;
+    if (!line.tool.empty()) {
+        needed.push_back(line.tool);
+    }
+    for (const std::string& file : needed) {
         std::error_code error;
         if (!std::filesystem::exists(file, error)) {
             std::cerr << "tessarin: there is no file " << file << std::endl;

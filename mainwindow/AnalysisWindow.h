@@ -105,6 +105,28 @@ class AnalysisWindow : public WindowObject, public FormEvents, public CopySource
     /// Height of the bin at grid place `x` in ten-thousandths of the y scale, 0 outside the bins;
     /// `x` becomes the bin.
     virtual std::optional<int32_t> AnnaHistonKorkeus(int32_t& /*x*/) const { return std::nullopt; }
+    /// Height of the sum of curves at grid place `x`, in ten-thousandths of the plot's height.
+    virtual std::optional<int32_t> AnnaSummanKorkeus(double /*x*/) const { return std::nullopt; }
+    /// `SiirraKayraa` means move the curve: sets "korkeus" (height), "nimi" (name), "paikka"
+    /// (place), "tasanne" (plateau), "hajontavasen" or "hajontaoikea" (deviation left, right).
+    virtual bool SiirraKayraa(std::string_view /*what*/, int16_t /*curve*/,
+                              const std::string& /*value*/) {
+        return false;
+    }
+    /// "luo" makes a curve of that name, "poista" removes it.
+    virtual bool LuoTaiPoista(std::string_view /*what*/, int16_t /*curve*/,
+                              const std::string& /*name*/) {
+        return false;
+    }
+    /// Turns the picture about "x" or "y" by so many degrees.
+    virtual bool MuutaRotaatiota(std::string_view /*axis*/, double /*degrees*/) { return false; }
+    virtual bool MuutaEtaisyytta(double /*distance*/) { return false; }
+    /// `Nollaa` means put to zero: the turn and the distance.
+    virtual bool Nollaa() { return false; }
+    /// Background picture: "paalla" (on) or "poissa" (off).
+    virtual bool AsetaTaustaKuvanTila(std::string_view /*state*/) { return false; }
+    /// Slot `slot` of the window shows histogram window `window`.
+    virtual bool AsetaHistogram(int16_t /*slot*/, int16_t /*window*/) { return false; }
 };
 
 }  // namespace tessarin

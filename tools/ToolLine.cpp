@@ -1,0 +1,49 @@
+#include "tools/ToolLine.h"
+
+#include <algorithm>
+
+#include "core/Text.h"
+
+namespace tessarin {
+
+ToolLine::ToolLine(std::string_view line) {
+    const auto pieces = Split(line, ':');
+    if (pieces[0].empty()) {
+        throw ToolFault();  // no word 0
+    }
+    for (const std::string_view word : Split(pieces[0], '.')) {
+        words.emplace_back(word);
+    }
+    std::string text = pieces.size() > 1 ? std::string(pieces[1]) : "";
+    if (pieces.size() > 2) {
+        text.append(":").append(pieces[2]);
+    }
+    value = ToolValue(std::move(text));
+}
+
+const std::string& ToolLine::Word(std::size_t n) const {
+    return n < words.size() ? words[n] : throw ToolFault();
+}
+
+ToolPattern::ToolPattern(std::string_view form) {
+    for (const std::string_view word : Split(form, '.')) {
+        const bool any = word.size() == 1 && word[0] >= 'A' && word[0] <= 'Z';
+        words_.push_back(any ? std::vector<std::string_view>() : Split(word, '|'));
+    }
+}
+
+bool ToolPattern::Agrees(std::span<const std::string_view> choices, std::string_view word) {
+    return choices.empty() || std::find(choices.begin(), choices.end(), word) != choices.end();
+}
+
+ToolPattern::Fit ToolPattern::Fits(std::span<const std::string> words) const {
+    const std::size_t both = std::min(words.size(), words_.size());
+    for (std::size_t i = 0; i < both; ++i) {
+        if (!Agrees(words_[i], words[i])) {
+            return Fit::kNo;
+        }
+    }
+    return words.size() < words_.size() ? Fit::kTooShort : Fit::kYes;
+}
+
+}  // namespace tessarin

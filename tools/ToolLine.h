@@ -1,0 +1,58 @@
+// One line of a tool in its parts, and matching it against the forms of commands and queries.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/ToolValue.h"
+
+namespace tessarin {
+
+/// A path of words with full stops between them, and perhaps a colon and a value behind it.
+struct ToolLine {
+    /// Cuts a trimmed line. The value may hold one colon; what stands behind a third is lost.
+    explicit ToolLine(std::string_view line);
+    ToolLine() = default;
+
+    /// Word n, from 0; a fault when there are fewer.
+    const std::string& Word(std::size_t n) const;
+
+    std::vector<std::string> words;
+    ToolValue value;
+};
+
+/// The form of a command or query, such as "w.N.axis.x": small words stand as they are, a capital
+/// letter stands for any word, and "w|window" for either word.
+class ToolPattern {
+  public:
+    /// REQUIRES: the text outlives the form; it is written out in the program.
+    explicit ToolPattern(std::string_view form);
+
+    enum class Fit { kNo, kTooShort, kYes };
+    /// `kTooShort` when the words agree as far as they go. Words behind the form do not matter.
+    Fit Fits(std::span<const std::string> words) const;
+
+  private:
+    static bool Agrees(std::span<const std::string_view> choices, std::string_view word);
+
+    std::vector<std::vector<std::string_view>> words_;  // the choices for each; none for any
+};
+
+/// Finds the first of `rows` whose form fits; each has a member `form`. Null when none does; a
+/// fault when the words end too early for one.
+template <class Row>
+const Row* EtsiMuoto(std::span<const Row> rows, std::span<const std::string> words) {
+    bool tooShort = false;
+    for (const Row& row : rows) {
+        const ToolPattern::Fit fit = row.form.Fits(words);
+        if (fit == ToolPattern::Fit::kYes) {
+            return &row;
+        }
+        tooShort = tooShort || fit == ToolPattern::Fit::kTooShort;
+    }
+    return tooShort ? throw ToolFault() : nullptr;
+}
+
+}  // namespace tessarin

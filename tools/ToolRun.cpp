@@ -1,0 +1,169 @@
+#include "tools/ToolRun.h"
+
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "tools/ToolCommands.h"
+#include "tools/ToolQueries.h"
+
+namespace tessarin {
+
+bool SkriptiKaynnissa = false;
+
+namespace {
+
+constexpr std::string_view kBlanks = " ";
+
+std::string_view Trimmed(std::string_view line) {
+    const auto first = line.find_first_not_of(kBlanks);
+    return first == std::string_view::npos
+               ? ""
+               : line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
+}
+
+// What ends each line; the text behind the last line end is none.
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::string_view line : Split(text, '\n')) {
+        line.remove_suffix(line.ends_with('\r') ? 1 : 0);
+        lines.emplace_back(line);
+    }
+    lines.pop_back();
+    return lines;
+}
+
+}  // namespace
+
+bool ToolRun::AjaOhjelma(const std::string& text) {
+    SkriptiKaynnissa = true;
+    main_.TalletaNakyma("Autosave");
+    lines_ = LinesOf(text);
+    if (text.empty()) {
+        lines_.emplace_back("   ");  // what is empty altogether is a line that says nothing
+    }
+    const auto count = static_cast<int32_t>(lines_.size());
+    for (RiviNumero = 0; SkriptiKaynnissa && RiviNumero < count; ++RiviNumero) {
+        try {
+            RunLine();
+        } catch (const ToolFault&) {
+            Keskeyta("There is an error in the code on line " + std::to_string(RiviNumero + 1) +
+                         ". Aborting.",
+                     "Fatal error");
+        }
+        if (surroundings_.showVariables) {
+            surroundings_.showVariables(variables_.Luettelo());
+        }
+        main_.Services().loop.Yield();
+    }
+    report.close();
+    SkriptiKaynnissa = false;
+    return !aborted_;
+}
+
+void ToolRun::RunLine() {
+    std::string& line = lines_[static_cast<std::size_t>(RiviNumero)];
+    if (!IsPassedOver(line)) {
+        line = std::string(Trimmed(line));
+        const std::string whole = line;
+        Execute(whole);
+    }
+}
+
+// Conditions are counted by the letters on a line, wherever they stand.
+bool ToolRun::IsPassedOver(const std::string& line) {
+    constexpr std::size_t kShortest = 3;
+    if (Length(line) < kShortest || line[0] == '#') {
+        return true;
+    }
+    if (line.find("endif") != std::string::npos) {
+        if (OhitusSyvyys == 0) {
+            Ohita = false;
+        } else {
+            --OhitusSyvyys;
+        }
+    }
+    if (Ohita && line.find("if.") != std::string::npos) {
+        ++OhitusSyvyys;
+    }
+    return Ohita;
+}
+
+void ToolRun::Execute(const std::string& whole) {
+    ToolLine line(whole);
+    std::string text = line.value.Text();
+    variables_.Sijoita(text);
+    line.value = ToolValue(std::move(text));
+    variables_.SijoitaSanat(line.words);
+    if (line.value.Text().starts_with('@')) {
+        if (auto result = Kysy(*this, line.value.Text())) {
+            line.value = std::move(*result);
+        }
+    }
+    SuoritaKomento(*this, line);
+}
+
+void ToolRun::Keskeyta(const std::string& message, const std::string& title) {
+    aborted_ = true;
+    SkriptiKaynnissa = false;
+    if (!message.empty()) {
+        User().Abort(message, title);
+    }
+}
+
+void ToolRun::ShowWindow() {
+    if (surroundings_.showWindow) {
+        surroundings_.showWindow();
+    }
+}
+
+SkriptiSilmukka& ToolRun::Silmukka() {
+    if (SilmukkaSyvyys < 0) {
+        throw ToolFault();
+    }
+    return Silmukat[static_cast<std::size_t>(SilmukkaSyvyys)];
+}
+
+void ToolRun::Aloita(double rounds) {
+    if (rounds == 0) {
+        Keskeyta("You must give the max loop times. Aborting.");
+        return;
+    }
+    if (SilmukkaSyvyys + 1 >= static_cast<int32_t>(Silmukat.size())) {
+        throw ToolFault();
+    }
+    ++SilmukkaSyvyys;
+    Silmukka() = {rounds, 1, RiviNumero, true};
+}
+
+void ToolRun::Kierros(const std::string& condition) {
+    SkriptiSilmukka& loop = Silmukka();
+    if (loop.Kaynnissa && loop.Laskuri >= loop.Kierroksia) {
+        loop.Kaynnissa = false;
+    }
+    if (!condition.empty() && loop.Kaynnissa) {
+        loop.Kaynnissa = !LoppuuSilmukka(condition);
+    }
+    if (loop.Kaynnissa) {
+        ++loop.Laskuri;
+        RiviNumero = loop.AlkuRivi;
+    } else {
+        --SilmukkaSyvyys;
+    }
+}
+
+std::string ToolRun::Polku(std::string_view name) const {
+    return NykyinenKansio + KorvaaTeksti(name, "\\", "/");
+}
+
+void ToolRun::AsetaKansio(std::string_view folder) {
+    NykyinenKansio = KorvaaTeksti(folder, "\\", "/");
+    if (!NykyinenKansio.ends_with('/')) {
+        NykyinenKansio += '/';
+    }
+}
+
+}  // namespace tessarin

@@ -1,0 +1,97 @@
+// One run of a tool: its lines, conditions, loops and variables.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/Expression.h"
+#include "tools/ToolLine.h"
+#include "tools/ToolUser.h"
+#include "tools/ToolVariables.h"
+
+namespace tessarin {
+
+class PaaIkkuna;
+
+/// `SkriptiKaynnissa` means a script runs: True from the start of a run to its end. Whoever sets
+/// it False stops the run at the next line.
+extern bool SkriptiKaynnissa;
+
+/// `SkriptiSilmukka` means script loop.
+struct SkriptiSilmukka {
+    double Kierroksia = 0;   ///< the most rounds
+    double Laskuri = 0;      ///< the round now running, from 1
+    int32_t AlkuRivi = 0;    ///< index of the `do` line
+    bool Kaynnissa = false;  ///< the loop is to go on
+};
+
+/// What a run needs besides the session.
+struct ToolSurroundings {
+    ToolUser& user;
+    /// Shows the variables after a line; empty when nobody wants to see them.
+    std::function<void(const std::string& list)> showVariables{};
+    /// Shows the tool window in full.
+    std::function<void()> showWindow{};
+};
+
+class ToolRun {
+  public:
+    ToolRun(PaaIkkuna& main, const ToolSurroundings& surroundings)
+        : main_(main), surroundings_(surroundings) {}
+
+    /// `AjaOhjelma` means run the program: runs the lines of the text, which end in CR LF or LF;
+    /// what stands behind the last line end is no line. Autosaves first, and lets events run after
+    /// each line. False when the run was aborted.
+    bool AjaOhjelma(const std::string& text);
+
+    // What commands use.
+    PaaIkkuna& Main() { return main_; }
+    ToolUser& User() { return surroundings_.user; }
+    ToolVariables& Muuttujat() { return variables_; }
+    /// Aborts the run after this line; tells the user why, unless the user wanted it so.
+    void Keskeyta(const std::string& message, const std::string& title = "");
+    /// Ends the run after this line.
+    void Lopeta() { SkriptiKaynnissa = false; }
+    void ShowWindow();
+
+    /// The loop that a file step ends: the innermost open one, or the spare one outside all.
+    SkriptiSilmukka& Silmukka();
+    void Aloita(double rounds);
+    void Kierros(const std::string& condition);
+    /// A condition: what follows is skipped up to its `endif` unless it holds.
+    void Ehto(bool holds) { Ohita = !holds; }
+
+    /// A path of the tool's: separators of other systems are understood.
+    std::string Polku(std::string_view name) const;
+    void AsetaKansio(std::string_view folder);
+
+    std::string NykyinenKansio;  ///< current folder, ending in a separator once it is set
+    bool AutoUpdate = true;      ///< whether population commands redraw at once
+    bool TulostinAsetettu = false;
+    std::ofstream report;  ///< the open report; a new one takes its place
+    bool reportSet = false;
+    ExpressionEngine laskin;  ///< `laskin` means calculator
+
+  private:
+    void RunLine();
+    bool IsPassedOver(const std::string& line);
+    void Execute(const std::string& line);
+
+    PaaIkkuna& main_;
+    ToolSurroundings surroundings_;
+    std::vector<std::string> lines_;
+    int32_t RiviNumero = 0;
+    bool Ohita = false;          // skipping up to the matching endif
+    int32_t OhitusSyvyys = 0;    // conditions opened while skipping
+    int32_t SilmukkaSyvyys = 0;  // loop depth
+    std::array<SkriptiSilmukka, 101> Silmukat;
+    ToolVariables variables_;
+    bool aborted_ = false;
+};
+
+}  // namespace tessarin

@@ -1,0 +1,116 @@
+// Commands on a variable: lines whose first word holds "$".
+#include <vector>
+
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "tools/ToolCommands.h"
+#include "tools/ToolRun.h"
+
+namespace tessarin {
+namespace {
+
+struct VariableCommand {
+    ToolPattern form;  // without the variable
+    void (*run)(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value);
+};
+
+void Set(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
+    constexpr int32_t kDecimals = 5;
+    const auto number = value.Number();
+    variable.Numeerinen = number.has_value();
+    variable.Desimaalit = number ? kDecimals : variable.Desimaalit;
+    variable.Arvo = number ? NumberText(*number) : value.Text();
+}
+
+// The expression language knows the decimal point alone; a comma in gives a comma out.
+void Calc(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value) {
+    const bool comma = value.Text().find(',') != std::string::npos;
+    ExpressionResult result = run.laskin.LaskeLauseke(KorvaaTeksti(value.Text(), ",", "."));
+    if (result.fault != ExpressionFault::None) {
+        throw ToolFault();
+    }
+    variable.Arvo = comma ? KorvaaTeksti(result.text, ".", ",") : std::move(result.text);
+}
+
+void WholePart(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
+    variable.Arvo = NumberText(Int(NumberOf(value)));
+}
+
+// Seven places are told apart; a number beyond them counts as none.
+int Digits(double number) {
+    int digits = 1;
+    for (double bound = 10; number >= bound; bound *= 10) {
+        ++digits;
+    }
+    constexpr int kMostDigits = 7;
+    return digits > kMostDigits ? 0 : digits;
+}
+
+void PadWithZeros(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
+    constexpr double kWidest = 10000;
+    const double width = Rounded(NumberOf(value));
+    const double zeros = width - Digits(NumberOf(variable.Arvo));
+    if (zeros > kWidest) {
+        throw ToolFault();
+    }
+    if (zeros > 0) {
+        variable.Arvo.insert(0, static_cast<std::size_t>(zeros), '0');
+    }
+    variable.Numeerinen = false;
+}
+
+const std::vector<VariableCommand>& Commands() {
+    using Variable = SkriptiMuuttuja;
+    static const std::vector<VariableCommand> commands = {
+        {ToolPattern("set"), Set},
+        {ToolPattern("digits"),
+         [](ToolRun&, Variable& variable, const ToolValue& value) {
+             variable.Desimaalit = ToInt32(Rounded(NumberInFront(value.Text())));
+         }},
+        {ToolPattern("calc"), Calc},
+        {ToolPattern("int"), WholePart},
+        {ToolPattern("zeros"), PadWithZeros},
+        {ToolPattern("if.bigger"),
+         [](ToolRun& run, Variable& variable, const ToolValue& value) {
+             run.Ehto(NumberOf(variable.Arvo) > NumberOf(value));
+         }},
+        {ToolPattern("if.smaller"),
+         [](ToolRun& run, Variable& variable, const ToolValue& value) {
+             run.Ehto(NumberOf(variable.Arvo) < NumberOf(value));
+         }},
+        {ToolPattern("if.equals"),
+         [](ToolRun& run, Variable& variable, const ToolValue& value) {
+             run.Ehto(NumberOf(variable.Arvo) == NumberOf(value));
+         }},
+        {ToolPattern("if.same"),
+         [](ToolRun& run, Variable& variable, const ToolValue& value) {
+             run.Ehto(value.Text() == variable.Arvo);
+         }},
+        {ToolPattern("if.different"),
+         [](ToolRun& run, Variable& variable, const ToolValue& value) {
+             run.Ehto(value.Text() != variable.Arvo);
+         }},
+        {ToolPattern("if.X"), [](ToolRun& run, Variable&, const ToolValue&) { run.Ehto(false); }},
+    };
+    return commands;
+}
+
+}  // namespace
+
+bool SuoritaMuuttujakomento(ToolRun& run, const ToolLine& line) {
+    const std::string& name = line.words[0];
+    if (name.find('$') == std::string::npos) {
+        return false;
+    }
+    SkriptiMuuttuja& variable = run.Muuttujat().EtsiTaiLisaa(name);
+    const std::span<const std::string> words(line.words);
+    line.Word(1);  // a line that is only a variable cannot be carried out
+    const VariableCommand* command =
+        EtsiMuoto(std::span<const VariableCommand>(Commands()), words.subspan(1));
+    if (command != nullptr) {
+        command->run(run, variable, line.value);
+    }
+    return true;
+}
+
+}  // namespace tessarin

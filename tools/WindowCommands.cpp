@@ -1,0 +1,198 @@
+// Commands on a window.
+#include <vector>
+
+#include "core/Bitmap.h"
+#include "core/Muuttujat.h"
+#include "core/Numbers.h"
+#include "mainwindow/FileLoading.h"
+#include "mainwindow/FileNavigation.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
+#include "plots/PlotArea.h"
+#include "tools/ToolCommands.h"
+#include "tools/ToolRun.h"
+
+namespace tessarin {
+namespace {
+
+// One command at work.
+struct Call {
+    ToolRun& run;
+    const ToolLine& line;
+    int16_t id;
+    AnalysisWindow& window;
+
+    const std::string& Text() const { return line.value.Text(); }
+    double Number() const { return NumberOf(line.value); }
+    /// The place of word n among a window's own things, such as its curves.
+    int16_t Slot(std::size_t n) const { return SlotOf(line.Word(n), INT16_MAX); }
+    Form& Frame() const { return window.Lomake(); }
+    Twips Size() const { return {ToInt32(Rounded(Number()))}; }
+};
+
+// A kind of window that lacks an operation cannot carry the line out.
+void Must(bool has) {
+    if (!has) {
+        throw ToolFault();
+    }
+}
+
+void SaveImage(const Call& call) {
+    Must(TalletaKuva(call.window.Lomake().Surface().Image(), call.run.Polku(call.Text())).empty());
+}
+
+bool HasFreeFile() {
+    for (const Tiedosto& file : Tiedostot) {
+        if (file.Fingerprint == 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void LoadFile(const Call& call) {
+    if (HasFreeFile()) {
+        const std::string path = call.run.Polku(call.Text());
+        TiedostonLukuToimenPiteet(call.run.Main(), path, call.id, 0);
+    }
+}
+
+// A step that finds no file ends the loop that it stands in.
+void MoveFile(const Call& call) {
+    ToolRun& run = call.run;
+    PaaIkkuna& main = run.Main();
+    if (call.Text() == "next") {
+        run.Silmukka().Kaynnissa = SeuraavaTiedosto(main, call.id);
+    } else if (call.Text() == "previous") {
+        run.Silmukka().Kaynnissa = EdellinenTiedosto(main, call.id);
+    } else if (call.Text() == "first") {
+        const int16_t file = Ikkunat(call.id).FileIndex;
+        if (run.NykyinenKansio.empty()) {
+            Must(Tiedostot.Holds(file));
+            run.AsetaKansio(Tiedostot(file).Folder);
+        }
+        run.Silmukka().Kaynnissa = EnsimmainenTiedostoHakemisto(main, call.id, run.NykyinenKansio);
+    }
+}
+
+// "true" and "false" choose one of two words; any other value does nothing.
+template <class Operation>
+void Choose(const Call& call, std::string_view on, std::string_view off, Operation operation) {
+    if (call.Text() == "true" || call.Text() == "false") {
+        Must(operation(call.Text() == "true" ? on : off));
+    }
+}
+
+void MoveCurve(const Call& call, std::string_view what) {
+    Must(call.window.SiirraKayraa(what, call.Slot(3), call.Text()));
+}
+
+struct WindowCommand {
+    ToolPattern form;
+    void (*run)(const Call& call);
+};
+
+void AddPlotCommands(std::vector<WindowCommand>& to) {
+    to.insert(
+        to.end(),
+        {{ToolPattern("w|window.N.saveimage"), SaveImage},
+         {ToolPattern("w|window.N.file.move"), MoveFile},
+         {ToolPattern("w|window.N.file.load"), LoadFile},
+         {ToolPattern("w|window.N.drawmode"),
+          [](const Call& c) { Must(c.window.AsetaPiirtoMoodi(c.Text())); }},
+         {ToolPattern("w|window.N.axis.x"),
+          [](const Call& c) { Must(c.window.AsetaKanava("x", SlotOf(c.Text(), INT16_MAX))); }},
+         {ToolPattern("w|window.N.axis.y"),
+          [](const Call& c) { Must(c.window.AsetaKanava("y", SlotOf(c.Text(), INT16_MAX))); }},
+         {ToolPattern("w|window.N.size.x"),
+          [](const Call& c) { c.Frame().SetOuterSize(c.Size(), c.Frame().OuterHeight()); }},
+         {ToolPattern("w|window.N.size.y"),
+          [](const Call& c) { c.Frame().SetOuterSize(c.Frame().OuterWidth(), c.Size()); }},
+         {ToolPattern("w|window.N.position.x"),
+          [](const Call& c) { c.Frame().SetPlace(c.Size(), c.Frame().Top()); }},
+         {ToolPattern("w|window.N.position.y"),
+          [](const Call& c) { c.Frame().SetPlace(c.Frame().Left(), c.Size()); }},
+         {ToolPattern("w|window.N.statistics.visible"),
+          [](const Call& c) {
+              Choose(c, "open", "close",
+                     [&c](std::string_view w) { return c.window.AvaaTaiSuljeStatistics(w); });
+          }},
+         {ToolPattern("w|window.N.statistics.position.x"),
+          [](const Call& c) { Must(c.window.LiikutaStatistiikkaLaatikkoa("x", c.Size().count)); }},
+         {ToolPattern("w|window.N.statistics.position.y"),
+          [](const Call& c) { Must(c.window.LiikutaStatistiikkaLaatikkoa("y", c.Size().count)); }},
+         {ToolPattern("w|window.N.quadrant.visible"),
+          [](const Call& c) {
+              Choose(c, "open", "close",
+                     [&c](std::string_view w) { return c.window.NaytaTaiPiilotaKvadrantti(w); });
+          }},
+         {ToolPattern("w|window.N.quadrant.position.x"),
+          [](const Call& c) { Must(c.window.AsetaRegion("x", c.Number())); }},
+         {ToolPattern("w|window.N.quadrant.position.y"),
+          [](const Call& c) { Must(c.window.AsetaRegion("y", kGrid - c.Number())); }}});
+}
+
+void AddOtherCommands(std::vector<WindowCommand>& to) {
+    to.insert(
+        to.end(),
+        {{ToolPattern("w|window.N.rotate.x"),
+          [](const Call& c) { Must(c.window.MuutaRotaatiota("x", c.Number())); }},
+         {ToolPattern("w|window.N.rotate.y"),
+          [](const Call& c) { Must(c.window.MuutaRotaatiota("y", c.Number())); }},
+         {ToolPattern("w|window.N.distance"),
+          [](const Call& c) { Must(c.window.MuutaEtaisyytta(c.Number())); }},
+         {ToolPattern("w|window.N.zero"), [](const Call& c) { Must(c.window.Nollaa()); }},
+         {ToolPattern("w|window.N.bgpicture"),
+          [](const Call& c) {
+              Choose(c, "paalla", "poissa",
+                     [&c](std::string_view w) { return c.window.AsetaTaustaKuvanTila(w); });
+          }},
+         {ToolPattern("w|window.N.overlay.K.histogram"),
+          [](const Call& c) {
+              Must(c.window.AsetaHistogram(c.Slot(3), SlotOf(c.Text(), INT16_MAX)));
+          }},
+         {ToolPattern("w|window.N.curve.C.height"), [](const Call& c) { MoveCurve(c, "korkeus"); }},
+         {ToolPattern("w|window.N.curve.C.name"), [](const Call& c) { MoveCurve(c, "nimi"); }},
+         {ToolPattern("w|window.N.curve.C.position"),
+          [](const Call& c) { MoveCurve(c, "paikka"); }},
+         {ToolPattern("w|window.N.curve.C.plateau"),
+          [](const Call& c) { MoveCurve(c, "tasanne"); }},
+         {ToolPattern("w|window.N.curve.C.deviation.left"),
+          [](const Call& c) { MoveCurve(c, "hajontavasen"); }},
+         {ToolPattern("w|window.N.curve.C.deviation.right"),
+          [](const Call& c) { MoveCurve(c, "hajontaoikea"); }},
+         {ToolPattern("w|window.N.curve.C.create"),
+          [](const Call& c) { Must(c.window.LuoTaiPoista("luo", c.Slot(3), c.Text())); }},
+         {ToolPattern("w|window.N.curve.C.delete"),
+          [](const Call& c) { Must(c.window.LuoTaiPoista("poista", c.Slot(3), c.Text())); }}});
+}
+
+const std::vector<WindowCommand>& Commands() {
+    static const std::vector<WindowCommand> commands = [] {
+        std::vector<WindowCommand> all;
+        AddPlotCommands(all);
+        AddOtherCommands(all);
+        return all;
+    }();
+    return commands;
+}
+
+}  // namespace
+
+bool SuoritaIkkunakomento(ToolRun& run, const ToolLine& line) {
+    if (line.words[0] != "w" && line.words[0] != "window") {
+        return false;
+    }
+    NumberOf(line.Word(1));
+    const WindowCommand* command =
+        EtsiMuoto(std::span<const WindowCommand>(Commands()), line.words);
+    if (command != nullptr) {
+        const int16_t id = SlotOf(line.Word(1), MaxWindows);
+        const auto window = IkkunaPaikassa(id);  // lives until the line is done
+        Must(window != nullptr);
+        command->run({run, line, id, *window});
+    }
+    return true;
+}
+
+}  // namespace tessarin

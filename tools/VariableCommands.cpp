@@ -22,14 +22,18 @@ void Set(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
     variable.Arvo = number ? NumberText(*number) : value.Text();
 }
 
-// The expression language knows the decimal point alone; a comma in gives a comma out.
+// A comma separates arguments. Where that makes no sense it is a decimal comma, and then the
+// result has one too.
 void Calc(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value) {
-    const bool comma = value.Text().find(',') != std::string::npos;
-    ExpressionResult result = run.laskin.LaskeLauseke(KorvaaTeksti(value.Text(), ",", "."));
+    ExpressionResult result = run.laskin.LaskeLauseke(value.Text());
+    if (result.fault != ExpressionFault::None && value.Text().find(',') != std::string::npos) {
+        result = run.laskin.LaskeLauseke(KorvaaTeksti(value.Text(), ",", "."));
+        result.text = KorvaaTeksti(result.text, ".", ",");
+    }
     if (result.fault != ExpressionFault::None) {
         throw ToolFault();
     }
-    variable.Arvo = comma ? KorvaaTeksti(result.text, ".", ",") : std::move(result.text);
+    variable.Arvo = std::move(result.text);
 }
 
 void WholePart(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {

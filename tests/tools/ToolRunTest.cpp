@@ -78,6 +78,7 @@ TEST_F(ToolRunTest, ValuesAndVariables) {
              {"$a.set:$b~$b.set:3~output.write:$a", "3|"},
              {"$a.set:2.5~$a.calc:$a*2+1~output.write:$a", "6|"},
              {"$a.calc:1,5*2,5~output.write:$a", "3,75|"},
+             {"$a.calc:Mid(\"abcd\",2,2)&Round(2.567,1)~output.write:$a", "bc2.6|"},
              {"$a.set:-1.5~$a.int:$a~output.write:$a", "-2|"},
              {"$p.set:C:\\data:lost~output.write:$p", "C:\\data|"},
              {"$p.set:a:b:c~output.write:$p", "a:b|"},

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <fstream>
 
 namespace tessarin {
 namespace {
@@ -32,31 +33,48 @@ SafeFile::SafeFile(const std::string& path) {
     std::error_code error;
     const fs::path real = fs::canonical(path, error);
     path_ = error ? path : real.string();
-    beside_ = path_ + ".part";
     errno = 0;
     if (MayBeReplaced(path_)) {
-        out_.open(beside_, std::ios::binary);
-        begun_ = out_.is_open();
+        Begin();
     }
     failure_ = LastFailure();
 }
 
+// A file of the first name that is free: what stands beside the target is somebody else's.
+void SafeFile::Begin() {
+    constexpr int kTries = 1000;
+    for (int number = 1; number <= kTries && out_ == nullptr; ++number) {
+        beside_ = path_ + (number == 1 ? "" : "-" + std::to_string(number)) + ".part";
+        errno = 0;
+        out_.reset(std::fopen(beside_.c_str(), "wbx"));
+        if (out_ == nullptr && errno != EEXIST) {
+            return;
+        }
+    }
+    begun_ = out_ != nullptr;
+}
+
 SafeFile::~SafeFile() {
+    out_.reset();
     if (begun_) {
-        out_.close();
         std::error_code ignored;
         fs::remove(beside_, ignored);
     }
 }
 
 void SafeFile::Write(std::string_view bytes) {
-    out_.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (out_ != nullptr) {
+        failed_ |= std::fwrite(bytes.data(), 1, bytes.size(), out_.get()) != bytes.size();
+    }
 }
 
 WriteResult SafeFile::Commit() {
-    out_.close();
-    if (!begun_ || !out_) {
-        return begun_ ? WriteResult::kFailed : failure_;
+    if (!begun_) {
+        return failure_;
+    }
+    failed_ |= std::fclose(out_.release()) != 0;
+    if (failed_) {
+        return WriteResult::kFailed;
     }
     std::error_code error;
     const fs::file_status old = fs::status(path_, error);

@@ -1,7 +1,8 @@
 // Writing a file so that a crash or a full disk never destroys the old one.
 #pragma once
 
-#include <fstream>
+#include <cstdio>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -11,8 +12,9 @@ namespace tessarin {
 /// failed (the disk is full, the folder is gone).
 enum class WriteResult { kDone, kDenied, kFailed };
 
-/// Writes a file in pieces: they go to a file beside it, which takes its place once it is whole.
-/// Until then, and when anything fails, the file at the path is as it was.
+/// Writes a file in pieces: they go to a new file beside it, which takes its place once it is
+/// whole. Until then, and when anything fails, the file at the path is as it was; no other file is
+/// touched.
 class SafeFile {
   public:
     /// A file at `path` must be an ordinary one that may be written to. A link is followed.
@@ -29,10 +31,17 @@ class SafeFile {
     WriteResult Commit();
 
   private:
+    struct Close {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    void Begin();
+
     std::string path_;
     std::string beside_;
-    std::ofstream out_;
+    std::unique_ptr<std::FILE, Close> out_;
     bool begun_ = false;                          // the file beside is ours to remove
+    bool failed_ = false;                         // a piece was not written whole
     WriteResult failure_ = WriteResult::kFailed;  // of beginning
 };
 

@@ -48,6 +48,7 @@ void TarkistaMarkkeri(int16_t slot) {
         }
     }
     TarkistaKayttavatMaaritelmat(slot);
+    marker.Corners = 2;  // whatever a sheet said: both ends count
     marker.X[1] = left;
     marker.X[2] = right;
 }

@@ -190,7 +190,7 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     bool IsItemEnabled(int item) const;
     void SetFastDrawCaption();
     void SetRegionCaptions();
-    SheetKey FormKey(std::string key, Twips (Form::*read)() const,
+    SheetKey FormKey(std::string key, double most, Twips (Form::*read)() const,
                      std::function<void(Form& form, Twips value)> set);
     SheetKey StatisticsPlaceKey(std::string_view axis, Twips (GridForm::*read)() const);
 

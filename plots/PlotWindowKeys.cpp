@@ -7,7 +7,11 @@
 namespace tessarin {
 namespace {
 
-constexpr double kFarthest = 120000;  // twips; a window beyond would be no window
+// What a sheet may ask for, in twips. A window further out would not be found again, and pictures
+// larger than the largest screens only fill the memory.
+constexpr double kFarthest = 120000;
+constexpr double kWidest = 60000;
+constexpr double kHighest = 36000;
 
 }  // namespace
 
@@ -25,26 +29,26 @@ bool PlotWindow::LoadInfo(std::string_view line) {
     return true;
 }
 
-SheetKey PlotWindow::FormKey(std::string key, Twips (Form::*read)() const,
+SheetKey PlotWindow::FormKey(std::string key, double most, Twips (Form::*read)() const,
                              std::function<void(Form& form, Twips value)> set) {
     return {std::move(key), [this, read] { return std::to_string((Lomake().*read)().count); },
-            [this, set = std::move(set)](std::string_view value) {
+            [this, most, set = std::move(set)](std::string_view value) {
                 const auto number = SheetNumber(value);
-                if (number && std::fabs(*number) <= kFarthest) {
+                if (number && std::fabs(*number) <= most) {
                     set(Lomake(), {ToInt32(*number)});
                 }
             }};
 }
 
 void PlotWindow::AddPlaceKeys(std::vector<SheetKey>& keys) {
-    keys.push_back(FormKey("location.x", &Form::Left,
+    keys.push_back(FormKey("location.x", kFarthest, &Form::Left,
                            [](Form& form, Twips x) { form.SetPlace(x, form.Top()); }));
-    keys.push_back(FormKey("location.y", &Form::Top,
+    keys.push_back(FormKey("location.y", kFarthest, &Form::Top,
                            [](Form& form, Twips y) { form.SetPlace(form.Left(), y); }));
-    keys.push_back(FormKey("size.x", &Form::OuterWidth, [](Form& form, Twips width) {
+    keys.push_back(FormKey("size.x", kWidest, &Form::OuterWidth, [](Form& form, Twips width) {
         form.SetOuterSize(width, form.OuterHeight());
     }));
-    keys.push_back(FormKey("size.y", &Form::OuterHeight, [](Form& form, Twips height) {
+    keys.push_back(FormKey("size.y", kHighest, &Form::OuterHeight, [](Form& form, Twips height) {
         form.SetOuterSize(form.OuterWidth(), height);
     }));
     keys.push_back(Lukuavain("file", Ikkunat(ID).FileIndex));

@@ -53,13 +53,17 @@ bool IsPlainName(const std::string& name) {
 }
 
 bool IsSame(std::ifstream& package, int64_t length, const std::string& path) {
+    // Only an ordinary file has a size; to open another might wait for ever.
+    if (FileSize(path) != length) {
+        return false;
+    }
     std::ifstream file(path, std::ios::binary);
     std::string there;
-    return FileSize(path) == length && Copy(package, length, [&](const std::string& chunk) {
-               there.resize(chunk.size());
-               file.read(there.data(), static_cast<std::streamsize>(there.size()));
-               return file && there == chunk;
-           });
+    return Copy(package, length, [&](const std::string& chunk) {
+        there.resize(chunk.size());
+        file.read(there.data(), static_cast<std::streamsize>(there.size()));
+        return file && there == chunk;
+    });
 }
 
 }  // namespace

@@ -244,6 +244,7 @@ TEST_F(SheetTest, HostileLinesArePassedOver) {
         "window.5.size.y:99999999999\nwindow.5.axis.x:-5\nwindow.5.show:500\nwindow.5.file:-4\n"
         "window.5.statistics.x:5\nwindow.5.statistics.column.1.visible:1\nwindow.5\nwindow\n.\n:\n"
         "window.6.type:DotPlot\nwindow.5.type:DotPlot\nwindow.5.location.x:75\nprintview.a:1\n"
+        "population.6.type:Histogram\npopulation.6.corners:1\npopulation.6.corner.2.x:75\n"
         "window.6.quadrant.x:1e99\nfileinfo.visible:1\ngeneral.style:nothing\n";
     Load(folder_.Write("hostile.tessarin", text));
     EXPECT_EQ(std::count_if(Ikkunat.begin(), Ikkunat.end(), [](const auto& i) { return i.Used; }),
@@ -251,6 +252,7 @@ TEST_F(SheetTest, HostileLinesArePassedOver) {
     EXPECT_TRUE(Ikkunat(17).Used) << "the one number of a window that makes sense";
     EXPECT_EQ(Populaatiot(4).Corners, 0);
     EXPECT_FALSE(Populaatiot(4).Transparent);
+    EXPECT_EQ(Populaatiot(6).Corners, 2) << "a marker has two ends, and both are saved";
     EXPECT_EQ(Info(5)[0], "location.x:75") << "a second type line for a window is none";
     EXPECT_EQ(Info(5)[12], "smoothing:2");
     EXPECT_EQ(Ikkunat(5).FileIndex, 0);
@@ -276,7 +278,9 @@ TEST_F(SheetTest, PackagesCarryTheirFiles) {
     fs::create_directory(there);
     fs::copy(folder_.Path("p.tessarin"), there);
     fs::remove_all(folder_.Path("other"));
+    std::ofstream(there + "tube.fcs.part") << "mine";
     Load(there + "p.tessarin");
+    EXPECT_EQ(Bytes(there + "tube.fcs.part"), "mine") << "a stranger's file";
     EXPECT_TRUE(platform.dialogs.messages.empty());
     EXPECT_EQ(Bytes(there + "tube.fcs"), one);
     EXPECT_EQ(Bytes(there + "tube-2.fcs"), two) << "two files of one name do not mix";

@@ -24,7 +24,22 @@ double Bumped(double value) {
 }  // namespace
 
 double Log10Arvo(double x) {
-    return x > 0 ? std::log10(x) : 0;
+    if (!(x > 0)) {
+        return 0;
+    }
+    return x < std::numeric_limits<double>::infinity() ? Kymmenlogaritmi(x) : x;
+}
+
+void Log10Arvot(std::span<const double> values, std::span<double> logs) {
+    assert(logs.size() >= values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        logs[i] = Kymmenlogaritmi(values[i]);
+    }
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const double finite =
+            values[i] < std::numeric_limits<double>::infinity() ? logs[i] : values[i];
+        logs[i] = values[i] > 0 ? finite : 0;
+    }
 }
 
 double LogKerroin(double x, double k) {

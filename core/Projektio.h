@@ -11,8 +11,11 @@
 
 namespace tessarin {
 
-/// log10(x) for x above 0, else 0.
+/// log10(x) for x above 0, else 0. REQUIRES: x is not subnormal; no value of a file is.
 double Log10Arvo(double x);
+
+/// The same for a whole list, to the last bit. REQUIRES: logs is at least as long as values.
+void Log10Arvot(std::span<const double> values, std::span<double> logs);
 
 /// `LogKerroin` means log factor: 1 for x at or below 1, else log10(x) times k.
 double LogKerroin(double x, double k);

@@ -57,8 +57,8 @@ void LaskeHistoTilastot(const ChannelData& data, std::vector<HistoRivi>& rows) {
         [&](std::span<const int32_t> events) {
             for (std::size_t i = 0; i < events.size(); ++i) {
                 value[i] = static_cast<double>(values[static_cast<std::size_t>(events[i]) - 1]);
-                logarithm[i] = Log10Arvo(value[i]);
             }
+            Log10Arvot({value.data(), events.size()}, logarithm);
         },
         [&](int16_t slot, std::size_t i) {
             HistoRivi& row = fresh[static_cast<std::size_t>(slot)];

@@ -25,9 +25,9 @@ struct ValueBlock {
             const auto row = static_cast<std::size_t>(events[i]) - 1;
             x[i] = static_cast<double>(xs[row]);
             y[i] = static_cast<double>(ys[row]);
-            logX[i] = Log10Arvo(x[i]);
-            logY[i] = Log10Arvo(y[i]);
         }
+        Log10Arvot({x.data(), events.size()}, logX);
+        Log10Arvot({y.data(), events.size()}, logY);
     }
 
     void AddTo(TilastoRivi& row, std::size_t i) const {

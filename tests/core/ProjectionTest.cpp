@@ -102,6 +102,17 @@ TEST_F(ProjectionTest, ColumnsAgreeWithSingleEventsToTheLastBit) {
     }
 }
 
+TEST(Logarithm, ColumnsAgreeWithSingleValues) {
+    const std::vector<double> values = {1, 0, -3, 2.5, 1e-30, 3.4e38, NAN, INFINITY, -INFINITY};
+    std::vector<double> logs(values.size());
+    Log10Arvot(values, logs);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        EXPECT_EQ(logs[i], Log10Arvo(values[i])) << values[i];
+    }
+    EXPECT_EQ(logs[2] + logs[6], 0);
+    EXPECT_EQ(logs[7], INFINITY);
+}
+
 TEST(Logarithm, IsExactForPowersOfTenAndCloseEverywhere) {
     double power = 1;  // exact up to 1e22
     for (int exponent = 0; exponent <= 22; ++exponent, power *= 10) {

@@ -17,4 +17,8 @@ std::optional<std::string> RealFile(const std::string& name) {
     return path.string();
 }
 
+std::string SourceFile(const std::string& name) {
+    return std::string(TESSARIN_SOURCE_FOLDER) + "/" + name;
+}
+
 }  // namespace tessarin

@@ -11,6 +11,9 @@ namespace tessarin {
 /// GTEST_SKIP() << kNoRealData.
 std::optional<std::string> RealFile(const std::string& name);
 
+/// The place of a file of the repository, such as "scripts/Quadrants of a folder.tsrscript".
+std::string SourceFile(const std::string& name);
+
 inline constexpr const char* kNoRealData =
     "the real files are not here; TESSARIN_DATA can name their folder";
 

@@ -47,8 +47,8 @@ std::vector<SheetKey> Populaatioavaimet(int16_t slot) {
     return Keys(slot, std::clamp<int>(Populaatiot(slot).Corners, 0, kMaxCorners));
 }
 
-std::vector<SheetKey> PopulaationLukuavaimet(int16_t slot) {
-    return Keys(slot, kMaxCorners);
+std::vector<SheetKey> PopulaationLukuavaimet(int16_t slot, std::string_view key) {
+    return Keys(slot, key.starts_with("corner.") ? kMaxCorners : 0);
 }
 
 std::vector<SheetKey> Maaritelmaavaimet(int16_t slot) {

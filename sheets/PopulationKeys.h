@@ -12,9 +12,9 @@ namespace tessarin {
 /// population has any. REQUIRES: slot is 1..MaxPopulations.
 std::vector<SheetKey> Populaatioavaimet(int16_t slot);
 
-/// The same with all corners that there is room for, since a line may come before the number of
-/// corners does.
-std::vector<SheetKey> PopulaationLukuavaimet(int16_t slot);
+/// The keys that a line of a sheet with that key may mean: any corner that there is room for, since
+/// the line may come before the number of corners does.
+std::vector<SheetKey> PopulaationLukuavaimet(int16_t slot, std::string_view key);
 
 /// The keys of the definition in a slot. REQUIRES: slot is behind the populations' slots.
 std::vector<SheetKey> Maaritelmaavaimet(int16_t slot);

@@ -105,8 +105,8 @@ class SheetLoader {
         const int slot = line.Number(2);
         if (slot >= 1 && slot <= MaxPopulations) {
             Define(static_cast<int16_t>(slot));
-            LueAvain(PopulaationLukuavaimet(static_cast<int16_t>(slot)), line.KeyFrom(3),
-                     line.value);
+            const std::string_view key = line.KeyFrom(3);
+            LueAvain(PopulaationLukuavaimet(static_cast<int16_t>(slot), key), key, line.value);
         }
     }
 

@@ -9,9 +9,19 @@
 namespace tessarin {
 namespace {
 
-// No value that ends comes near these; one that holds its own name passes them at once.
-constexpr std::size_t kLongestValue = 1 << 20;
-constexpr int kMostRounds = 10000;
+// No value that ends comes near these; one that holds its own name passes them at once. A round
+// counts as so many bytes besides those that it writes.
+constexpr std::size_t kMostBytes = 1 << 22;
+constexpr std::size_t kRoundBytes = 200;
+
+std::size_t Count(std::string_view text, std::string_view part) {
+    std::size_t count = 0;
+    for (auto at = text.find(part); at != std::string_view::npos;
+         at = text.find(part, at + part.size())) {
+        ++count;
+    }
+    return count;
+}
 
 }  // namespace
 
@@ -42,15 +52,15 @@ const SkriptiMuuttuja* ToolVariables::LongestIn(std::string_view value) const {
 }
 
 void ToolVariables::Sijoita(std::string& value) const {
-    int rounds = 0;
+    std::size_t written = 0;
     while (const SkriptiMuuttuja* variable = LongestIn(value)) {
         const std::string text =
             variable->Numeerinen ? NumberText(NumberOf(variable->Arvo)) : variable->Arvo;
-        std::string next = KorvaaTeksti(value, variable->Nimi, text);
-        if (next == value || ++rounds > kMostRounds || next.size() > kLongestValue) {
+        written += value.size() + Count(value, variable->Nimi) * text.size() + kRoundBytes;
+        if (written > kMostBytes) {
             throw ToolFault();
         }
-        value = std::move(next);
+        value = KorvaaTeksti(value, variable->Nimi, text);
     }
 }
 

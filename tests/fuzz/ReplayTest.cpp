@@ -1,4 +1,4 @@
-// Feeds the loader of analysis sheets all that fuzzers have found worth keeping.
+// Feeds one fuzzed function all that fuzzers have found worth keeping.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -14,10 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size);
 namespace tessarin {
 namespace {
 
-TEST(ReplayTest, SheetsOfTheCorpus) {
+TEST(ReplayTest, TheWholeCorpus) {
     int replayed = 0;
-    for (const auto& entry :
-         std::filesystem::directory_iterator(TESSARIN_CORPUS_FOLDER "/sheets")) {
+    for (const auto& entry : std::filesystem::directory_iterator(TESSARIN_CORPUS_FOLDER)) {
         std::cout << entry.path().filename() << std::endl;  // the last one is what crashed
         std::ifstream in(entry.path(), std::ios::binary);
         const std::vector<char> bytes{std::istreambuf_iterator<char>(in), {}};

@@ -21,6 +21,7 @@
 #include "sheets/SheetStore.h"
 #include "sheets/SheetWriter.h"
 #include "tools/AnswerToolUser.h"
+#include "tools/ToolList.h"
 #include "tools/ToolPack.h"
 #include "tools/ToolRun.h"
 
@@ -152,6 +153,8 @@ int Run(const CommandLine& line) {
     PaaIkkuna main(platform.Services());
     SheetStore views(main, !line.headless);
     main.Kumppanit().views = &views;
+    ToolList tools(main);
+    main.Kumppanit().tools = &tools;
     if (line.headless) {
         main.onRemark = [](const std::string& remark) {
             std::cerr << "warning: " << remark << std::endl;

@@ -51,11 +51,22 @@ class FileInfoView : public SheetCompanion {
     virtual void FileInfonAsetusLatauksenJalkeen() = 0;
 };
 
+/// The tools that are installed beside the program.
+class ToolMenu {
+  public:
+    virtual ~ToolMenu() = default;
+    /// What the Tools menu calls them.
+    virtual std::vector<std::string> Nimet() const = 0;
+    /// Runs number `tool`, from 0.
+    virtual void Aja(std::size_t tool) = 0;
+};
+
 /// Each is null while the program has none.
 struct Companions {
     ViewStore* views = nullptr;
     PreviewPage* preview = nullptr;
     FileInfoView* fileInfo = nullptr;
+    ToolMenu* tools = nullptr;
 };
 
 }  // namespace tessarin

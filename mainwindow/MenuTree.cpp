@@ -27,6 +27,8 @@ constexpr std::array<std::array<std::string_view, 2>, 6> kMenus = {{
     {"MenuHelp", "&Help"},
 }};
 
+constexpr std::string_view kToolList = "SkriptiLista";
+
 constexpr std::array kItems = {
     Row{"MenuFile", "FileOpenFCS", "Open FCS...", "Ctrl+O"},
     Row{"MenuFile", "FileNextFile", "Next file", "Ctrl+N"},
@@ -65,8 +67,8 @@ constexpr std::array kItems = {
     Row{"MenuCreate", "LuoFluxTracker", "Flux tracker"},
     Row{"MenuCreate", "LuoProjector", "Projector"},
     Row{"MenuCreate", "LuoClipBook", "ClipBook"},
-    // The list of installed tools; until there are any, its one item says so.
-    Row{"MenuScript", "SkriptiLista", "No tools installed"},
+    // Installed tools take the place of this one.
+    Row{"MenuScript", kToolList, kToolList},
     Row{"MenuHelp", "AvaaHelp", "Online Help", "F1"},
     Row{"MenuHelp", "AvaaAboutLaatikko", "About Tessarin"},
 };
@@ -78,13 +80,23 @@ MenuItem ItemOf(const Row& row, bool built) {
 
 }  // namespace
 
-std::vector<Menu> MenuTree(const std::function<bool(std::string_view)>& isBuilt) {
+std::string ToolCommand(std::size_t tool) {
+    return std::string(kToolList) + std::to_string(tool);
+}
+
+std::vector<Menu> MenuTree(const std::function<bool(std::string_view)>& isBuilt,
+                           const std::vector<std::string>& tools) {
     std::vector<Menu> menus;
     for (const auto& [name, caption] : kMenus) {
         Menu menu{std::string(name), std::string(caption), {}};
         for (const Row& row : kItems) {
-            if (row.menu == name) {
+            if (row.menu == name && (row.command != kToolList || tools.empty())) {
                 menu.items.push_back(ItemOf(row, isBuilt(row.command)));
+            }
+        }
+        if (name == "MenuScript") {
+            for (const std::string& tool : tools) {
+                menu.items.push_back({ToolCommand(menu.items.size()), tool, "", true, false});
             }
         }
         menus.push_back(std::move(menu));

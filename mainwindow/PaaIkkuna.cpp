@@ -60,9 +60,11 @@ void PaaIkkuna::Kaynnista() {
     PalautaAlkutila();
     MainForm& form = platform_.mainForm;
     form.SetTitle("Tessarin v. " + std::string(ProgramVersionText));
-    form.BuildMenus(MenuTree([](std::string_view command) {
-        return Handlers().contains(command) || EtsiLajiKomennolla(command) != nullptr;
-    }));
+    form.BuildMenus(MenuTree(
+        [](std::string_view command) {
+            return Handlers().contains(command) || EtsiLajiKomennolla(command) != nullptr;
+        },
+        ToolNames()));
     form.Show();
     panel_.Alusta();
     populations_.Rakenna();
@@ -70,6 +72,10 @@ void PaaIkkuna::Kaynnista() {
     if (companions_.views != nullptr) {
         companions_.views->TarjoaPalautusta();
     }
+}
+
+std::vector<std::string> PaaIkkuna::ToolNames() const {
+    return companions_.tools == nullptr ? std::vector<std::string>() : companions_.tools->Nimet();
 }
 
 void PaaIkkuna::PiirraKaikki() {
@@ -121,6 +127,18 @@ void PaaIkkuna::Command(std::string_view command) {
         handler->second(*this);
     } else if (const WindowKind* kind = EtsiLajiKomennolla(command)) {
         LuoIkkuna(*this, kind->type);
+    } else {
+        RunTool(command);
+    }
+}
+
+void PaaIkkuna::RunTool(std::string_view command) {
+    const std::size_t count = ToolNames().size();
+    for (std::size_t tool = 0; tool < count; ++tool) {
+        if (command == ToolCommand(tool)) {
+            companions_.tools->Aja(tool);
+            return;
+        }
     }
 }
 

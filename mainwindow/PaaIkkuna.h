@@ -76,6 +76,8 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     static const std::map<std::string_view, Handler>& Handlers();
 
     void OpenView();
+    std::vector<std::string> ToolNames() const;
+    void RunTool(std::string_view command);
     void CopyImages();
     void ToggleBumper();
     void ShowHelp();

@@ -37,6 +37,8 @@ TEST_F(MainWindowTest, MenuTreeStandsWhole) {
                                                 "Ctrl+N", "Ctrl+O", "Ctrl+P", "F1"}));
     EXPECT_TRUE(platform.mainForm.Item("CreateDotPlot").enabled);
     EXPECT_FALSE(platform.mainForm.Item("Printtaa").enabled);
+    EXPECT_EQ(platform.mainForm.Item("SkriptiLista").caption, "SkriptiLista");
+    EXPECT_FALSE(platform.mainForm.Item("SkriptiLista").enabled);
     EXPECT_FALSE(platform.mainForm.Item("CreateBendPlot").enabled) << "until there are any";
 }
 

@@ -13,6 +13,7 @@
 #include "tests/support/ProgramFixture.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tools/AnswerToolUser.h"
+#include "tools/ToolList.h"
 #include "tools/ToolPack.h"
 
 namespace tessarin {
@@ -360,6 +361,33 @@ TEST_F(ToolRunTest, QuestionsAreAnsweredBeforehand) {
     EXPECT_EQ(Run("message:a[enter]b~question.printer.set~printpreview.print"), "");
     EXPECT_EQ(log_.str(), "Message: a\rb\n");
     EXPECT_TRUE(ended_);
+}
+
+TEST(ToolListTest, InstalledToolsRunFromTheMenu) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.Path("scripts"));
+    folder.Write("scripts/a.b.tsrscript", "message:plain\r\n");
+    folder.Write("scripts/Packed.TSRPACK", TeePaketti("message:packed\r\n"));
+    folder.Write("scripts/notes.txt", "message:no\r\n");
+    ScriptedPlatform platform;
+    platform.programFolder = folder.Path();
+    PaaIkkuna main(platform.Services());
+    ToolList tools(main);
+    main.Kumppanit().tools = &tools;
+    main.Kaynnista();
+    const std::vector<MenuItem>& items = platform.mainForm.menus[4].items;
+    ASSERT_EQ(items.size(), 2U);
+    for (const MenuItem& item : items) {
+        EXPECT_TRUE(item.enabled);
+        platform.mainForm.events->Command(item.command);
+        ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+        EXPECT_EQ(platform.dialogs.messages[0].title, "Message");
+        EXPECT_EQ(platform.dialogs.messages[0].text, item.caption == "a" ? "plain" : "packed");
+        platform.dialogs.messages.clear();
+    }
+    std::filesystem::remove_all(folder.Path("scripts"));
+    platform.mainForm.events->Command(items[0].command);
+    EXPECT_EQ(platform.dialogs.messages.at(0).title, "Tools") << "gone since the start";
 }
 
 TEST(ToolPackTest, PacksComeBackWhole) {

@@ -1,0 +1,43 @@
+#include "tools/ToolList.h"
+
+#include <filesystem>
+
+#include "mainwindow/PaaIkkuna.h"
+#include "tools/ToolPack.h"
+#include "tools/ToolRun.h"
+#include "tools/ToolUser.h"
+
+namespace tessarin {
+
+ToolList::ToolList(PaaIkkuna& main)
+    : main_(main), folder_(main.Services().programFolder + "scripts/") {
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder_, error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (OnkoTyokalu(name)) {
+            tools_.push_back({name.substr(0, name.find('.')), std::move(name)});
+        }
+    }
+}
+
+std::vector<std::string> ToolList::Nimet() const {
+    std::vector<std::string> names;
+    for (const SkriptiTieto& tool : tools_) {
+        names.push_back(tool.Nimi);
+    }
+    return names;
+}
+
+void ToolList::Aja(std::size_t tool) {
+    const std::string path = folder_ + tools_[tool].TiedostoNimi;
+    const Tyokalu read = LueTyokalu(path);
+    if (!read.Valid) {
+        main_.Services().dialogs.Message("The tool '" + path + "' could not be read.", "Tools");
+        return;
+    }
+    DialogToolUser user(main_.Services().dialogs);
+    ToolRun(main_, {user}).AjaOhjelma(read.text);
+}
+
+}  // namespace tessarin

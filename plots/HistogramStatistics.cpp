@@ -11,20 +11,23 @@ namespace tessarin {
 namespace {
 
 constexpr std::size_t kBlock = KaytetytTapahtumat::kBlock;
+using ValueBlock = std::array<double, kBlock>;
+
+void TakeValues(const ChannelData& data, std::span<const int32_t> events, ValueBlock& block) {
+    const auto values = data.file.Data.Sarake(data.KanavaX);
+    for (std::size_t i = 0; i < events.size(); ++i) {
+        block[i] = static_cast<double>(values[static_cast<std::size_t>(events[i]) - 1]);
+    }
+}
 
 // Squared distances from the means of pass one, summed in pass two.
 void ComputeSpread(const ChannelData& data, const std::vector<int16_t>& slots,
                    std::vector<HistoRivi>& rows) {
     std::vector<double> sums(rows.size());
-    std::array<double, kBlock> value;
-    const auto values = data.file.Data.Sarake(data.KanavaX);
+    ValueBlock value;
     KayRivit(
         data.file, {data.file, data.gate, data.PiirtoVali}, slots,
-        [&](std::span<const int32_t> events) {
-            for (std::size_t i = 0; i < events.size(); ++i) {
-                value[i] = static_cast<double>(values[static_cast<std::size_t>(events[i]) - 1]);
-            }
-        },
+        [&](std::span<const int32_t> events) { TakeValues(data, events, value); },
         [&](int16_t slot, std::size_t i) {
             const auto row = static_cast<std::size_t>(slot);
             const double distance = value[i] - rows[row].XKeski;
@@ -49,15 +52,12 @@ void LaskeHistoTilastot(const ChannelData& data, std::vector<HistoRivi>& rows) {
     const auto slots =
         TilastoRivit([&](int16_t slot) { return OnkoHistoRivi(slot, data.KanavaX); });
     std::vector<HistoRivi> fresh(rows.size());
-    std::array<double, kBlock> value;
-    std::array<double, kBlock> logarithm;
-    const auto values = data.file.Data.Sarake(data.KanavaX);
+    ValueBlock value;
+    ValueBlock logarithm;
     KayRivit(
         data.file, {data.file, data.gate, data.PiirtoVali}, slots,
         [&](std::span<const int32_t> events) {
-            for (std::size_t i = 0; i < events.size(); ++i) {
-                value[i] = static_cast<double>(values[static_cast<std::size_t>(events[i]) - 1]);
-            }
+            TakeValues(data, events, value);
             Log10Arvot({value.data(), events.size()}, logarithm);
         },
         [&](int16_t slot, std::size_t i) {

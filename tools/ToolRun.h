@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "tools/Expression.h"
@@ -41,8 +42,8 @@ struct ToolSurroundings {
 
 class ToolRun {
   public:
-    ToolRun(PaaIkkuna& main, const ToolSurroundings& surroundings)
-        : main_(main), surroundings_(surroundings) {}
+    ToolRun(PaaIkkuna& main, ToolSurroundings surroundings)
+        : main_(main), surroundings_(std::move(surroundings)) {}
 
     /// `AjaOhjelma` means run the program: runs the lines of the text, which end in CR LF or LF;
     /// what stands behind the last line end is no line. Autosaves first, and lets events run after

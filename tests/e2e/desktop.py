@@ -72,6 +72,7 @@ class Desktop:
         for program in self._programs:
             program.kill()
             program.wait()
+            program.stderr.close()
         self._server.terminate()
         self._server.wait()
         self._folder.cleanup()

@@ -64,26 +64,27 @@ class EndToEnd(unittest.TestCase):
         # Events so close that they fill the middle fifth of both axes: a square of dots.
         square = [(x, y) for x in range(400, 600, 2) for y in range(400, 600, 2)]
         self.start(self.file("square.fcs", square))
-        picture = self.wait_for_plot()
-        # The first window is 266 pixels wide in all, at the upper left of the area.
-        left, top, right, bottom = 0, 0, 266, 300
+        middle = self.desktop.until(self.square_of_dots, "the square")
+        width = max(x for x, _ in middle) - min(x for x, _ in middle)
+        height = max(y for _, y in middle) - min(y for _, y in middle)
+        # A fifth of the axes of about 220 and 200 pixels, less the rim that was cut above.
+        self.assertTrue(34 <= width <= 46, width)
+        self.assertTrue(30 <= height <= 46, height)
+
+    def square_of_dots(self):
+        """Places of dots among dots in the middle of the first window, which is 266 wide in all."""
+        picture = self.desktop.picture()
         dots = [
             (x, y)
-            for y in range(top, bottom)
-            for x in range(left, right)
+            for y in range(81, 230)
+            for x in range(61, 200)
             if picture.at(x, y) == WHITE
             and picture.at(x - 2, y) == WHITE
             and picture.at(x + 2, y) == WHITE
             and picture.at(x, y - 2) == WHITE
             and picture.at(x, y + 2) == WHITE
         ]
-        middle = [p for p in dots if 60 < p[0] < 200 and 80 < p[1] < 230]
-        self.assertGreater(len(middle), 500)
-        width = max(x for x, _ in middle) - min(x for x, _ in middle)
-        height = max(y for _, y in middle) - min(y for _, y in middle)
-        # A fifth of the axes of about 220 and 200 pixels, less the rim that was cut above.
-        self.assertTrue(34 <= width <= 46, width)
-        self.assertTrue(30 <= height <= 46, height)
+        return dots if len(dots) > 500 else None
 
     def test_a_session_by_mouse_and_keys(self):
         desktop = self.desktop

@@ -86,7 +86,7 @@ std::string Harmless(std::string text) {
 // Two files to step through, and two windows on the first.
 std::string Folder() {
     static const TemporaryFolder outer;
-    const std::string folder = outer.Path("in/");
+    std::string folder = outer.Path("in/");
     fs::remove_all(folder);
     fs::create_directory(folder);
     FcsBuilder built("I", 16, "4,3,2,1", 2, 20);

@@ -21,9 +21,9 @@
 #include "sheets/SheetStore.h"
 #include "sheets/SheetWriter.h"
 #include "tools/AnswerToolUser.h"
+#include "tools/Skripti.h"
 #include "tools/ToolList.h"
 #include "tools/ToolPack.h"
-#include "tools/ToolRun.h"
 
 namespace tessarin {
 namespace {
@@ -60,7 +60,7 @@ bool Told(const std::string& failure) {
 }
 
 // False when the run was aborted.
-bool RunTool(PaaIkkuna& main, const CommandLine& line) {
+bool RunTool(const PaaIkkuna& main, Skripti& window, const CommandLine& line) {
     if (line.tool.empty()) {
         return true;
     }
@@ -71,7 +71,7 @@ bool RunTool(PaaIkkuna& main, const CommandLine& line) {
     Dialogs& dialogs = main.Services().dialogs;
     DialogToolUser atTheScreen(dialogs);
     AnswerToolUser user(line.answers, dialogs, line.headless ? nullptr : &atTheScreen, std::cerr);
-    return ToolRun(main, {user}).AjaOhjelma(tool.text);
+    return window.AjaValikosta(tool.text, user);
 }
 
 // False, with a word on standard error, when a window is not there.
@@ -153,7 +153,8 @@ int Run(const CommandLine& line) {
     PaaIkkuna main(platform.Services());
     SheetStore views(main, !line.headless);
     main.Kumppanit().views = &views;
-    ToolList tools(main);
+    Skripti toolWindow(main);
+    ToolList tools(main, toolWindow);
     main.Kumppanit().tools = &tools;
     if (line.headless) {
         main.onRemark = [](const std::string& remark) {
@@ -166,7 +167,7 @@ int Run(const CommandLine& line) {
         main.Command("KaytaNegAbsJuttua");
     }
     OpenFiles(main, line);
-    const bool ran = RunTool(main, line);
+    const bool ran = RunTool(main, toolWindow, line);
     const bool chosen = ChooseMenuItems(line);
     const bool sheet = SaveSheet(main, line.sheet);
     const bool fcs = SaveFcs(line);

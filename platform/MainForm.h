@@ -12,6 +12,7 @@
 #include "platform/Form.h"
 #include "platform/GridForm.h"
 #include "platform/Menus.h"
+#include "platform/ToolForm.h"
 #include "platform/Twips.h"
 
 namespace tessarin {
@@ -89,6 +90,9 @@ class MainForm {
 
     /// Likewise a child window that shows a table.
     virtual std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& events) = 0;
+
+    /// Likewise the window of tools.
+    virtual std::unique_ptr<ToolForm> MakeToolForm(ToolFormEvents& events) = 0;
 
     /// A surface that nobody sees.
     virtual std::unique_ptr<Kuva> MakeSurface() = 0;

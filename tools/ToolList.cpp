@@ -3,14 +3,14 @@
 #include <filesystem>
 
 #include "mainwindow/PaaIkkuna.h"
+#include "tools/Skripti.h"
 #include "tools/ToolPack.h"
-#include "tools/ToolRun.h"
 #include "tools/ToolUser.h"
 
 namespace tessarin {
 
-ToolList::ToolList(PaaIkkuna& main)
-    : main_(main), folder_(main.Services().programFolder + "scripts/") {
+ToolList::ToolList(PaaIkkuna& main, Skripti& window)
+    : main_(main), window_(window), folder_(main.Services().programFolder + "scripts/") {
     std::error_code error;
     std::filesystem::directory_iterator entry(folder_, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
@@ -37,7 +37,7 @@ void ToolList::Aja(std::size_t tool) {
         return;
     }
     DialogToolUser user(main_.Services().dialogs);
-    ToolRun(main_, {user}).AjaOhjelma(read.text);
+    window_.AjaValikosta(read.text, user);
 }
 
 }  // namespace tessarin

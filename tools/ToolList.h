@@ -9,6 +9,7 @@
 namespace tessarin {
 
 class PaaIkkuna;
+class Skripti;
 
 /// `SkriptiTieto` means script record.
 struct SkriptiTieto {
@@ -20,7 +21,8 @@ class ToolList : public ToolMenu {
   public:
     /// Lists the tools in `scripts/` beside the program, in the order that the file system gives
     /// them. Without that folder there are none.
-    explicit ToolList(PaaIkkuna& main);
+    /// They run in `window`.
+    ToolList(PaaIkkuna& main, Skripti& window);
 
     std::vector<std::string> Nimet() const override;
     /// Reads the tool and runs it; questions go to the user.
@@ -28,6 +30,7 @@ class ToolList : public ToolMenu {
 
   private:
     PaaIkkuna& main_;
+    Skripti& window_;
     std::string folder_;
     std::vector<SkriptiTieto> tools_;
 };

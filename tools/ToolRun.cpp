@@ -4,6 +4,7 @@
 #include <cmath>
 #include <exception>
 
+#include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "mainwindow/PaaIkkuna.h"
@@ -46,7 +47,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
         lines_.emplace_back("   ");  // what is empty altogether is a line that says nothing
     }
     const auto count = static_cast<int32_t>(lines_.size());
-    for (RiviNumero = 0; SkriptiKaynnissa && RiviNumero < count; ++RiviNumero) {
+    for (RiviNumero = 0; SkriptiKaynnissa && !Closing && RiviNumero < count; ++RiviNumero) {
         try {
             RunLine();
         } catch (const ToolFault&) {

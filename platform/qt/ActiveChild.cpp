@@ -14,6 +14,16 @@ void ActiveChild::Activate(ChildWindow& window) {
     Became(&window);
 }
 
+void ActiveChild::ShowBeside(ChildWindow& window) {
+    quiet_ = true;
+    window.show();
+    if (current_) {
+        area_.setActiveSubWindow(current_);
+    }
+    window.raise();
+    quiet_ = false;
+}
+
 void ActiveChild::TakeAway(ChildWindow& window) {
     if (current_ == &window) {
         current_ = nullptr;

@@ -19,6 +19,8 @@ class ActiveChild : public QObject {
     ChildWindow* Current() const { return current_; }
     /// Makes a shown window the active one; works without a window manager too.
     void Activate(ChildWindow& window);
+    /// Shows a window in front of the others; the active one stays active.
+    void ShowBeside(ChildWindow& window);
     /// Takes a window off the screen. Another child then becomes active, but hears of it from the
     /// event loop only: whoever removes a window is seldom ready for news of others.
     void TakeAway(ChildWindow& window);

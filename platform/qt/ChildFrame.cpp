@@ -97,6 +97,12 @@ void ChildFrame::Show() {
     active_->Activate(*window_);
 }
 
+void ChildFrame::ShowBeside() {
+    if (window_ && active_) {
+        active_->ShowBeside(*window_);
+    }
+}
+
 void ChildFrame::Hide() {
     if (window_ && active_) {
         active_->TakeAway(*window_);

@@ -35,6 +35,8 @@ class ChildFrame {
     void SetPlace(Twips left, Twips top);
 
     void Show();
+    /// Shows it while another child stays the active one.
+    void ShowBeside();
     void Hide();
 
   private:

@@ -1,6 +1,5 @@
 #include "platform/qt/Letters.h"
 
-#include <QFont>
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
@@ -27,10 +26,7 @@ struct Part {
 };
 
 QFont LetterFont(double ratio) {
-    QFont font;
-    font.setFamilies({QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"),
-                      QStringLiteral("DejaVu Sans Mono")});
-    font.setStyleHint(QFont::TypeWriter);
+    QFont font = TypewriterFont();
     font.setPixelSize(std::max(1, NearestPixel(kLetterSize * ratio)));
     // Full hinting keeps the stems on whole pixels; coloured fringes would end up in saved
     // pictures.
@@ -88,6 +84,14 @@ bool IsFarAway(const Letters& letters) {
 }
 
 }  // namespace
+
+QFont TypewriterFont() {
+    QFont font;
+    font.setFamilies({QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"),
+                      QStringLiteral("DejaVu Sans Mono")});
+    font.setStyleHint(QFont::TypeWriter);
+    return font;
+}
 
 void PaintAcross(QImage& image, const Letters& letters) {
     const double ratio = letters.ratio;

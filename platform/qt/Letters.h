@@ -1,12 +1,16 @@
 // The letters of a picture: text in cells of 7 pixels, across or upwards.
 #pragma once
 
+#include <QFont>
 #include <QImage>
 #include <string_view>
 
 #include "core/Color.h"
 
 namespace tessarin {
+
+/// Letters of equal width, in Qt's own size.
+QFont TypewriterFont();
 
 /// UTF-8 text at (x, y) in pixels, `ratio` device pixels each.
 struct Letters {

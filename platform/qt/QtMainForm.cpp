@@ -7,6 +7,7 @@
 #include "platform/qt/QtForm.h"
 #include "platform/qt/QtGridForm.h"
 #include "platform/qt/QtKuva.h"
+#include "platform/qt/QtToolForm.h"
 
 namespace tessarin {
 namespace {
@@ -77,6 +78,10 @@ std::unique_ptr<Form> QtMainForm::MakeChild(FormEvents& events) {
 
 std::unique_ptr<GridForm> QtMainForm::MakeGridChild(GridFormEvents& events) {
     return std::make_unique<QtGridForm>(window_->Area(), *active_, events);
+}
+
+std::unique_ptr<ToolForm> QtMainForm::MakeToolForm(ToolFormEvents& events) {
+    return std::make_unique<QtToolForm>(window_->Area(), *active_, events);
 }
 
 std::unique_ptr<Kuva> QtMainForm::MakeSurface() {

@@ -62,6 +62,12 @@ std::unique_ptr<GridForm> ScriptedMainForm::MakeGridChild(GridFormEvents& formEv
     return form;
 }
 
+std::unique_ptr<ToolForm> ScriptedMainForm::MakeToolForm(ToolFormEvents& formEvents) {
+    auto form = std::make_unique<ScriptedToolForm>(formEvents, [this] { tools = nullptr; });
+    tools = form.get();
+    return form;
+}
+
 void ScriptedMainForm::ShowAbout(std::span<const std::string> lines) {
     about.assign(lines.begin(), lines.end());
 }

@@ -8,6 +8,7 @@
 #include "platform/MainForm.h"
 #include "platform/scripted/ScriptedForm.h"
 #include "platform/scripted/ScriptedGridForm.h"
+#include "platform/scripted/ScriptedToolForm.h"
 
 namespace tessarin {
 
@@ -27,6 +28,7 @@ class ScriptedMainForm : public MainForm {
     void SetPanelButtonEnabled(PanelButton button, bool on) override { buttons[button] = on; }
     std::unique_ptr<Form> MakeChild(FormEvents& formEvents) override;
     std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& formEvents) override;
+    std::unique_ptr<ToolForm> MakeToolForm(ToolFormEvents& formEvents) override;
     std::unique_ptr<Kuva> MakeSurface() override { return std::make_unique<RecordingKuva>(); }
     void ShowAbout(std::span<const std::string> lines) override;
     Bitmap Snapshot() override { return {}; }
@@ -47,6 +49,7 @@ class ScriptedMainForm : public MainForm {
     std::vector<std::string> about;
     std::vector<ScriptedForm*> children;   ///< that exist now, in the order of their making
     std::vector<ScriptedGridForm*> grids;  ///< likewise
+    ScriptedToolForm* tools = nullptr;     ///< the window of tools, while there is one
 
   private:
     MenuItem* Find(std::string_view command);

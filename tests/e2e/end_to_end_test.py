@@ -174,6 +174,26 @@ class EndToEnd(unittest.TestCase):
         self.assertEqual(self.program.wait(timeout=20), 0)
         self.assertFalse(os.path.exists(autosave))
 
+    def test_a_tool_runs_from_the_menu_and_stops(self):
+        report = os.path.join(self.folder.name, "report.txt")
+        lines = ["output.set:" + report, "create.histogram:2", "$i.set:0", "do:100000000",
+                 "$i.calc:$i+1", "loop:", "output.write:ended"]
+        os.mkdir(os.path.join(self.folder.name, "scripts"))
+        with open(os.path.join(self.folder.name, "scripts", "Endless.tsrscript"), "w") as tool:
+            tool.write("".join(line + "\r\n" for line in lines))
+        self.start(self.file("a.fcs", [(500, 500)]))
+        self.wait_for_plot()
+        self.desktop.click(194, 9)
+        self.desktop.key("Down", "Return")
+        stop = (0, 700, 120, 780)
+        self.desktop.until(lambda: self.count(BACKGROUND, stop) < 5000, "the Stop button")
+        self.desktop.click(50, 755)
+        self.desktop.until(lambda: self.count(BACKGROUND, stop) > 9500, "its end")
+        self.assertTrue(os.path.exists(report))
+        self.assertEqual(os.path.getsize(report), 0)
+        self.exit_by_menu("Return")
+        self.assertEqual(self.program.wait(timeout=20), 0)
+
     def exit_by_menu(self, answer):
         self.desktop.click(18, 9)
         self.desktop.key("Up", "Return")

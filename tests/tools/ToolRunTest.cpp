@@ -13,6 +13,7 @@
 #include "tests/support/ProgramFixture.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tools/AnswerToolUser.h"
+#include "tools/Skripti.h"
 #include "tools/ToolList.h"
 #include "tools/ToolPack.h"
 
@@ -372,7 +373,8 @@ TEST(ToolListTest, InstalledToolsRunFromTheMenu) {
     ScriptedPlatform platform;
     platform.programFolder = folder.Path();
     PaaIkkuna main(platform.Services());
-    ToolList tools(main);
+    Skripti window(main);
+    ToolList tools(main, window);
     main.Kumppanit().tools = &tools;
     main.Kaynnista();
     const std::vector<MenuItem>& items = platform.mainForm.menus[4].items;

@@ -97,6 +97,9 @@ constexpr std::array kOptions = {
            [](CommandLine& line, const std::string& value) {
                return TakePath(line.clipboard, value);
            }},
+    Option{
+        "--printer", "FILE.pdf", "the printer of a headless run",
+        [](CommandLine& line, const std::string& value) { return TakePath(line.printer, value); }},
     Option{"--menu", "WINDOW:ITEM", "choose that item of that window's pop-up menu",
            [](CommandLine& line, const std::string& value) { return TakeMenu(line.menu, value); }},
     Option{"--help", "", "show this text",

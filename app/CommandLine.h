@@ -36,6 +36,7 @@ struct CommandLine {
     std::string sheet;               ///< where to save the session as a sheet; empty for nowhere
     std::vector<FcsSave> fcs;        ///< in order
     std::string clipboard;           ///< where to put the clipboard's text; empty for nowhere
+    std::string printer;             ///< the PDF file that a headless run prints to
     std::vector<MenuChoice> menu;    ///< in order
     std::vector<std::string> files;  ///< as they were written
 

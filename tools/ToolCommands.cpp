@@ -105,8 +105,9 @@ void CloseReport(ToolRun& run, const ToolLine& /*line*/) {
 void PrintPage(ToolRun& run, const ToolLine& /*line*/) {
     if (!run.TulostinAsetettu) {
         run.Keskeyta("The printer has not been set! Aborting.");
+    } else {
+        run.Main().Huomauta("There is no page to print.");  // nothing composes one so far
     }
-    // With a printer set there is no page to print yet.
 }
 
 const std::vector<Command>& Commands() {

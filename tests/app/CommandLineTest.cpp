@@ -12,14 +12,17 @@ CommandLine Take(const std::vector<std::string>& words) {
 
 TEST(CommandLineTest, TakesOptionsAndFilesInAnyOrder) {
     const CommandLine line =
-        Take({"a.fcs", "--headless", "--max-events", "10", "--fast-draw-limit=7", "--neg-bumper",
-              "--snapshot", "p.png", "--clipboard", "c.txt", "--save-sheet", "s.tessarin",
-              "--save-fcs", "2=x=y.fcs", "--menu", "2:3", "--menu=1:18", "--", "--odd-name.fcs"});
+        Take({"a.fcs",         "--headless", "--max-events", "10",          "--fast-draw-limit=7",
+              "--neg-bumper",  "--printer",  "p.pdf",        "--snapshot",  "p.png",
+              "--clipboard",   "c.txt",      "--save-sheet", "s.tessarin",  "--save-fcs",
+              "2=x=y.fcs",     "--menu",     "2:3",          "--menu=1:18", "--",
+              "--odd-name.fcs"});
     EXPECT_EQ(line.error, "");
     EXPECT_TRUE(line.headless && line.negBumper);
     EXPECT_EQ(line.maxEvents, 10);
     EXPECT_EQ(line.fastDrawLimit, 7);
     EXPECT_EQ(line.snapshot, "p.png");
+    EXPECT_EQ(line.printer, "p.pdf");
     EXPECT_EQ(line.clipboard, "c.txt");
     EXPECT_EQ(line.sheet, "s.tessarin");
     ASSERT_EQ(line.fcs.size(), 1U);

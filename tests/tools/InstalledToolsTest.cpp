@@ -132,6 +132,17 @@ TEST_F(InstalledToolsTest, MarkersAndRegionsFollowTheirEvents) {
     EXPECT_NEAR(std::stod(clouds[0][1]), 2020, 2) << "302 in the middle";
     EXPECT_NEAR(std::stod(clouds[1][1]), 3020, 2);
     EXPECT_EQ(clouds[1][3], "60");
+
+    // One as large as the plot goes where its middle should be only as far as the edges let it.
+    Define(4, "Polygon", {100, 9700, 9700, 100}, {100, 100, 9700, 9700});
+    answers_["region"] = "4";
+    std::filesystem::remove(folder_.Path("cloud.txt"));
+    ASSERT_TRUE(Run("Region follows its cloud"));
+    EXPECT_EQ(Report("cloud.txt"), (std::vector<Row>{{"a.fcs", "0", "9600", "100", "100"},
+                                                     {"b.fcs", "400", "10000", "100", "100"}}));
+    const auto& corners = Populaatiot(4);
+    EXPECT_EQ(corners.X[2] - corners.X[1], 9600);
+    EXPECT_EQ(corners.Y[3] - corners.Y[1], 9600);
 }
 
 TEST_F(InstalledToolsTest, PicturesTablesAndAReport) {

@@ -93,7 +93,8 @@ bool HasOldScale(const Tiedosto& file) {
 // One reading of one file; its steps stand in the order in which they run.
 class FcsReading {
   public:
-    explicit FcsReading(const std::string& path) : path_(path), source_(path) {}
+    FcsReading(const std::string& path, int32_t fingerprint)
+        : path_(path), fingerprint_(fingerprint), source_(path) {}
 
     Tiedosto Read() {
         if (!source_.IsOpen() || !ReadHeader() || !ReadCounts()) {
@@ -114,7 +115,7 @@ class FcsReading {
         ReadDisplay(keywords);
         NoteRanges(file_, oddities_);
         file_.RawData.CopyFrom(file_.Data);
-        file_.Fingerprint = TiedostonSormenjalki(path_);
+        file_.Fingerprint = fingerprint_ != 0 ? fingerprint_ : TiedostonSormenjalki(path_);
         file_.Oddities = oddities_.Line();
         file_.Valid = file_.Fingerprint != 0;
         return std::move(file_);
@@ -275,6 +276,7 @@ class FcsReading {
     }
 
     std::string path_;
+    int32_t fingerprint_;
     Source source_;
     FcsHeader header_;
     Tiedosto file_;
@@ -303,10 +305,10 @@ int32_t TiedostonSormenjalki(const std::string& path) {
     return static_cast<int32_t>(sum);
 }
 
-Tiedosto LueFCS(const std::string& path) {
+Tiedosto LueFCS(const std::string& path, int32_t fingerprint) {
     const BusyPointer busy;
     try {
-        return FcsReading(path).Read();
+        return FcsReading(path, fingerprint).Read();
     } catch (const std::bad_alloc&) {
         return {};
     }

@@ -17,11 +17,11 @@ namespace tessarin {
 namespace {
 
 // The slot of a file that is loaded already; 0 when it is not.
-int16_t LoadedSlot(const std::string& path) {
-    const int32_t fingerprint = std::max(1, TiedostonSormenjalki(path));  // 0 marks a free slot
+int16_t LoadedSlot(const std::string& path, int32_t fingerprint) {
+    const int32_t kept = std::max(1, fingerprint);  // 0 marks a free slot
     for (int16_t slot = 1; slot <= MaxFiles; ++slot) {
         const Tiedosto& file = Tiedostot(slot);
-        if (file.Fingerprint == fingerprint && file.Path() == path) {
+        if (file.Fingerprint == kept && file.Path() == path) {
             return slot;
         }
     }
@@ -58,9 +58,11 @@ Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
     return std::move(read.file);
 }
 
-// Reads into a slot; on refusal the slot keeps what it holds and the user is told.
-bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot, LukuTapa way) {
-    Tiedosto file = way == LukuTapa::kTxt ? ReadTable(main, path) : LueFCS(path);
+// Reads into a slot; `fingerprint` is the file's or, when nobody knows it yet, 0. On refusal the
+// slot keeps what it holds and the user is told.
+bool ReadInto(PaaIkkuna& main, const std::string& path, int32_t fingerprint, int16_t slot,
+              LukuTapa way) {
+    Tiedosto file = way == LukuTapa::kTxt ? ReadTable(main, path) : LueFCS(path, fingerprint);
     if (!file.Valid) {
         main.Services().dialogs.Message("The file was not valid flow cytometry file", "Load error");
         return false;
@@ -72,7 +74,8 @@ bool ReadInto(PaaIkkuna& main, const std::string& path, int16_t slot, LukuTapa w
 
 // The slot that holds the file now, read if need be; 0 when it could not be had.
 int16_t FindOrRead(PaaIkkuna& main, const std::string& path, LukuTapa way) {
-    if (const int16_t loaded = LoadedSlot(path)) {
+    const int32_t fingerprint = TiedostonSormenjalki(path);
+    if (const int16_t loaded = LoadedSlot(path, fingerprint)) {
         return loaded;
     }
     const int16_t slot = FreeSlot();
@@ -82,7 +85,7 @@ int16_t FindOrRead(PaaIkkuna& main, const std::string& path, LukuTapa way) {
                                         "Too many files open");
         return 0;
     }
-    if (!ReadInto(main, path, slot, way)) {
+    if (!ReadInto(main, path, fingerprint, slot, way)) {
         return 0;
     }
     TarkistaPopulaatiot();
@@ -146,7 +149,7 @@ bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t
     int16_t taken = slot;
     if (slot == 0) {
         taken = FindOrRead(main, path, way);
-    } else if (!ReadInto(main, path, slot, way)) {
+    } else if (!ReadInto(main, path, 0, slot, way)) {
         taken = 0;
     }
     if (taken == 0) {

@@ -26,6 +26,7 @@ QtMainForm::QtMainForm(const QtEventLoop& loop, bool headless)
       input_(std::make_unique<ChildInput>(*active_)) {
     const QSize room = window_->screen()->availableSize() - kDesktopMargin;
     window_->resize(headless ? kFirstSize : kFirstSize.boundedTo(room));
+    window_->setUpdatesEnabled(!headless);  // nobody sees it before a picture is taken
 }
 
 void QtMainForm::SetTitle(std::string_view title) {
@@ -97,7 +98,10 @@ void QtMainForm::ShowAbout(std::span<const std::string> lines) {
 }
 
 Bitmap QtMainForm::Snapshot() {
-    return FromQt(window_->grab().toImage());
+    window_->setUpdatesEnabled(true);
+    const QImage picture = window_->grab().toImage();
+    window_->setUpdatesEnabled(!headless_);
+    return FromQt(picture);
 }
 
 }  // namespace tessarin

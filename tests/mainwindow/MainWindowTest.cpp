@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <set>
 
 #include "core/FCSReader.h"
@@ -357,6 +358,26 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     EXPECT_TRUE(SeuraavaTiedosto(main, 1));
     EXPECT_EQ(shown(1), TeeLista(folder_.Path())[0]);
     EXPECT_TRUE(TeeLista("nowhere/").empty());
+}
+
+TEST_F(FileLoadingTest, AFolderIsLookedThroughAgainWhenItHasChanged) {
+    const std::string folder = folder_.Path();
+    const auto resting = [&](std::chrono::seconds age) {
+        std::filesystem::last_write_time(folder,
+                                         std::filesystem::file_time_type::clock::now() - age);
+        return TeeLista(folder).size();
+    };
+    folder_.Write("a", "");  // as a cytometer leaves it that is still measuring
+    EXPECT_EQ(resting(std::chrono::hours(1)), 0U);
+    std::ofstream(folder_.Path("a")) << "FCS3.0";
+    EXPECT_EQ(TeeLista(folder).size(), 1U) << "written on in place";
+    folder_.Write("b", "FCS2.0");
+    EXPECT_EQ(TeeLista(folder).size(), 2U);
+    folder_.Write("c", "FCS2.0");
+    EXPECT_EQ(TeeLista(folder).size(), 3U) << "within the same tick, perhaps";
+    EXPECT_EQ(resting(std::chrono::hours(2)), 3U);
+    std::filesystem::remove(folder_.Path("b"));
+    EXPECT_EQ(TeeLista(folder).size(), 2U);
 }
 
 TEST_F(FileLoadingTest, TextTablesOpenLikeFiles) {

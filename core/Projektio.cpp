@@ -9,6 +9,7 @@
 #include "core/Logarithm.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
+#include "core/WideVectors.h"
 
 namespace tessarin {
 namespace {
@@ -30,7 +31,7 @@ double Log10Arvo(double x) {
     return x < std::numeric_limits<double>::infinity() ? Kymmenlogaritmi(x) : x;
 }
 
-void Log10Arvot(std::span<const double> values, std::span<double> logs) {
+TESSARIN_WIDE void Log10Arvot(std::span<const double> values, std::span<double> logs) {
     assert(logs.size() >= values.size());
     for (std::size_t i = 0; i < values.size(); ++i) {
         logs[i] = Kymmenlogaritmi(values[i]);
@@ -77,7 +78,7 @@ double AkseliProjektio::TapahtumanPaikka(double value, double scale) const {
 
 // The passes over a block stand apart, and each computes both sides of a choice before it chooses,
 // so that the compiler makes vector code of them.
-void AkseliProjektio::Place(std::span<double> values, double scale, double* positions) const {
+TESSARIN_WIDE void AkseliProjektio::Place(std::span<double> values, double scale, double* positions) const {
     if (!usable_) {
         std::fill_n(positions, values.size(), 0.0);
         return;

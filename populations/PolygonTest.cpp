@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "core/Numbers.h"
+#include "core/WideVectors.h"
 
 namespace tessarin {
 namespace {
@@ -98,7 +99,7 @@ std::vector<Kulma> PopulaationKulmat(const Populaatio& population) {
     return corners;
 }
 
-void PolygoninSisalla(std::span<const float> xs, std::span<const float> ys,
+TESSARIN_WIDE void PolygoninSisalla(std::span<const float> xs, std::span<const float> ys,
                       std::span<const Kulma> polygon, std::span<uint8_t> inside) {
     assert(xs.size() == ys.size() && xs.size() == inside.size());
     const std::vector<Edge> edges = EdgesOf(polygon);

@@ -139,6 +139,7 @@ int Run(const CommandLine& line) {
     Nobody nobody;
     QtPlatform::Options options;
     options.headless = line.headless;
+    options.unseen = line.headless;
     options.printerPath = line.printer;
     options.programFolder = QCoreApplication::applicationDirPath().toStdString() + "/";
     if (line.headless) {

@@ -78,7 +78,8 @@ double AkseliProjektio::TapahtumanPaikka(double value, double scale) const {
 
 // The passes over a block stand apart, and each computes both sides of a choice before it chooses,
 // so that the compiler makes vector code of them.
-TESSARIN_WIDE void AkseliProjektio::Place(std::span<double> values, double scale, double* positions) const {
+TESSARIN_WIDE void AkseliProjektio::Place(std::span<double> values, double scale,
+                                          double* positions) const {
     if (!usable_) {
         std::fill_n(positions, values.size(), 0.0);
         return;

@@ -100,7 +100,7 @@ std::vector<Kulma> PopulaationKulmat(const Populaatio& population) {
 }
 
 TESSARIN_WIDE void PolygoninSisalla(std::span<const float> xs, std::span<const float> ys,
-                      std::span<const Kulma> polygon, std::span<uint8_t> inside) {
+                                    std::span<const Kulma> polygon, std::span<uint8_t> inside) {
     assert(xs.size() == ys.size() && xs.size() == inside.size());
     const std::vector<Edge> edges = EdgesOf(polygon);
     for (std::size_t from = 0; from < xs.size(); from += kBlock) {

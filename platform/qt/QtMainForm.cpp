@@ -17,8 +17,9 @@ constexpr QSize kDesktopMargin{20, 60};  // room for the window manager's frame
 
 }  // namespace
 
-QtMainForm::QtMainForm(const QtEventLoop& loop, bool headless)
+QtMainForm::QtMainForm(const QtEventLoop& loop, bool headless, bool unseen)
     : headless_(headless),
+      unseen_(unseen),
       window_(std::make_unique<MainWindow>(relay_, loop)),
       menus_(std::make_unique<MenuBar>(
           *window_->menuBar(), [this](const std::string& command) { relay_.Command(command); })),
@@ -26,7 +27,7 @@ QtMainForm::QtMainForm(const QtEventLoop& loop, bool headless)
       input_(std::make_unique<ChildInput>(*active_)) {
     const QSize room = window_->screen()->availableSize() - kDesktopMargin;
     window_->resize(headless ? kFirstSize : kFirstSize.boundedTo(room));
-    window_->setUpdatesEnabled(!headless);  // nobody sees it before a picture is taken
+    window_->setUpdatesEnabled(!unseen);
 }
 
 void QtMainForm::SetTitle(std::string_view title) {
@@ -100,7 +101,7 @@ void QtMainForm::ShowAbout(std::span<const std::string> lines) {
 Bitmap QtMainForm::Snapshot() {
     window_->setUpdatesEnabled(true);
     const QImage picture = window_->grab().toImage();
-    window_->setUpdatesEnabled(!headless_);
+    window_->setUpdatesEnabled(!unseen_);
     return FromQt(picture);
 }
 

@@ -15,7 +15,8 @@ namespace tessarin {
 class QtMainForm : public MainForm {
   public:
     /// Headless it has a size that does not depend on any screen, and shows no box that waits.
-    QtMainForm(const QtEventLoop& loop, bool headless);
+    /// `unseen`: nothing is painted but what is asked for as a picture.
+    QtMainForm(const QtEventLoop& loop, bool headless, bool unseen);
 
     void SetEvents(MainFormEvents* events) override { relay_.SetTarget(events); }
     void SetTitle(std::string_view title) override;
@@ -43,6 +44,7 @@ class QtMainForm : public MainForm {
     // In this order: what is lower uses what is higher and goes first.
     MainFormRelay relay_;
     bool headless_;
+    bool unseen_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<MenuBar> menus_;
     std::unique_ptr<ActiveChild> active_;

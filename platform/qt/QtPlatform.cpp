@@ -19,7 +19,7 @@ const QtEventLoop& AfterLook(const QtEventLoop& loop) {
 }  // namespace
 
 QtPlatform::QtPlatform(const Options& options)
-    : mainForm_(AfterLook(loop_), options.headless),
+    : mainForm_(AfterLook(loop_), options.headless, options.unseen),
       dialogs_(mainForm_.Window()),
       popups_(mainForm_.Window()),
       printer_(options.headless ? std::make_unique<QtPrinter>(options.printerPath)

@@ -30,6 +30,7 @@ class QtPlatform {
         PopupMenus* popups = nullptr;
         Browser* browser = nullptr;
 
+        bool unseen = false;       ///< nothing is painted but what is asked for as a picture
         std::string dataFolder{};  ///< the user's folder for data, ends in "/", or empty
     };
 

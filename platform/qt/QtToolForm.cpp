@@ -49,16 +49,17 @@ void QtToolForm::ShowFull() {
     pane_->Text().setFocus();
 }
 
-// Keeps the whole window to be seen. At first it stands in the lower left corner, where it hides
-// least of the plots.
+// Keeps the lower left corner where it is, and the whole window to be seen. At first it stands in
+// the lower left corner of the area, where it hides least of the plots.
 void QtToolForm::SetOuterSize(QSize pixels) {
+    const int bottom = PixelsFromTwips(frame_.Top()) + PixelsFromTwips(frame_.OuterHeight());
     frame_.SetOuterSize(TwipsFromPixels(pixels.width()), TwipsFromPixels(pixels.height()));
     if (!area_) {
         return;
     }
     const QSize room = (area_->viewport()->size() - pixels).expandedTo({0, 0});
     const int left = placed_ ? PixelsFromTwips(frame_.Left()) : 0;
-    const int top = placed_ ? PixelsFromTwips(frame_.Top()) : room.height();
+    const int top = placed_ ? bottom - pixels.height() : room.height();
     frame_.SetPlace(TwipsFromPixels(std::clamp(left, 0, room.width())),
                     TwipsFromPixels(std::clamp(top, 0, room.height())));
     placed_ = true;

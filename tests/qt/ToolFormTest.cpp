@@ -111,6 +111,8 @@ TEST_F(ToolFormTest, TheSmallFormStandsBesideTheActiveWindow) {
     tool_.form->ShowFull();
     EXPECT_TRUE(Window().Area().rect().contains(Shown(0).geometry()));
     EXPECT_TRUE(Pane(0).Text().isVisible());
+    tool_.form->ShowSmall();
+    EXPECT_EQ(Shown(0).geometry().bottomLeft(), Window().Area().rect().bottomLeft());
 }
 
 TEST_F(ToolFormTest, ClosingOnlyHides) {

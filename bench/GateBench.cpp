@@ -1,4 +1,5 @@
-// Evaluating a polygon and a definition, beside copies of the columns that they read and write.
+// Evaluating a polygon and a definition, beside copies of the columns that they read and write;
+// the polygon also beside the same job done event by event.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -9,6 +10,7 @@
 #include "BenchFile.h"
 #include "core/FCSReader.h"
 #include "core/Muuttujat.h"
+#include "core/Projektio.h"
 #include "plots/PolygonMembership.h"
 #include "populations/Definitions.h"
 
@@ -42,7 +44,7 @@ void Polygon(benchmark::State& state) {
     state.counters["members"] = static_cast<double>(std::ranges::count(members, 1));
     PalautaAlkutila();
 }
-BENCHMARK(Polygon)->Name("Polygon/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(Polygon)->Name("GateBytes/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void PolygonPlain(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
@@ -62,7 +64,45 @@ void PolygonPlain(benchmark::State& state) {
         benchmark::ClobberMemory();
     }
 }
-BENCHMARK(PolygonPlain)->Name("Polygon/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(PolygonPlain)->Name("GateBytes/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+// The same job as one would first write it down: each event is placed on both axes and tested
+// against each edge, one after the other.
+void GatePlain(benchmark::State& state) {
+    const Tiedosto& file = BenchFile();
+    PalautaAlkutila();
+    DefineOctagon(Populaatiot(1));
+    const Populaatio& octagon = Populaatiot(1);
+    const auto xs = file.Data.Sarake(kX);
+    const auto ys = file.Data.Sarake(kY);
+    const AkseliProjektio axisX(file.Channels(kX));
+    const AkseliProjektio axisY(file.Channels(kY));
+    std::vector<uint8_t> inside(kBenchEvents);
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < kBenchEvents; ++i) {
+            const double x = axisX.Paikka(static_cast<double>(xs[i]), 10000);
+            const double y = 10000 - axisY.Paikka(static_cast<double>(ys[i]), 10000);
+            bool in = false;
+            for (std::size_t k = 1; k <= 8; ++k) {
+                const std::size_t next = k % 8 + 1;
+                const auto x1 = static_cast<double>(octagon.X[k]);
+                const auto y1 = static_cast<double>(octagon.Y[k]);
+                const auto x2 = static_cast<double>(octagon.X[next]);
+                const auto y2 = static_cast<double>(octagon.Y[next]);
+                if ((y1 < y) != (y2 < y) && x < x1 + (x2 - x1) * (y - y1) / (y2 - y1)) {
+                    in = !in;
+                }
+            }
+            inside[i] = static_cast<uint8_t>(in);
+        }
+        benchmark::DoNotOptimize(inside.data());
+        benchmark::ClobberMemory();
+    }
+    state.counters["members"] = static_cast<double>(std::ranges::count(inside, 1));
+    PalautaAlkutila();
+}
+BENCHMARK(GatePlain)->Name("Gate/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+BENCHMARK(Polygon)->Name("Gate/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 // A file of nothing but members, spread at random over the first populations.
 void FillMembers(Tiedosto& file) {

@@ -44,6 +44,9 @@ class EventLoop {
     virtual ~EventLoop() = default;
     /// Lets waiting events run, then returns.
     virtual void Yield() = 0;
+    /// The same, for callers whom no child window has called, such as a tool between two lines:
+    /// windows that were closed meanwhile also give back their memory.
+    virtual void YieldBetween() { Yield(); }
     /// Ends the program's event loop; the process ends with that status.
     virtual void Quit(int status) = 0;
 };

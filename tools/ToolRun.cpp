@@ -58,7 +58,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
         if (surroundings_.showVariables) {
             surroundings_.showVariables(variables_.Luettelo());
         }
-        main_.Services().loop.Yield();
+        main_.Services().loop.YieldBetween();
     }
     report.close();
     SkriptiKaynnissa = false;

@@ -5,7 +5,18 @@
 namespace tessarin {
 
 void QtEventLoop::Yield() {
+    ++depth_;
     QCoreApplication::processEvents();
+    --depth_;
+}
+
+// Qt frees what was closed when it is back in the loop that the program runs in, which a tool
+// reaches at its end only. Within the yield of another caller a child window may wait below.
+void QtEventLoop::YieldBetween() {
+    Yield();
+    if (depth_ == 0) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 void QtEventLoop::Quit(int status) {

@@ -8,6 +8,7 @@ namespace tessarin {
 class QtEventLoop : public EventLoop {
   public:
     void Yield() override;
+    void YieldBetween() override;
     void Quit(int status) override;
 
     /// Runs until `Quit`, which may have been called before; gives its status.
@@ -16,6 +17,7 @@ class QtEventLoop : public EventLoop {
     int Status() const { return status_; }
 
   private:
+    int depth_ = 0;  // yields within yields
     bool quitting_ = false;
     int status_ = 0;
 };

@@ -1,5 +1,6 @@
 // Which child is active, how often it hears of it, and Shift on the way there.
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 #include "qt/Recorders.h"
@@ -88,6 +89,21 @@ TEST_F(ActivationTest, TheNextChildHearsOfItsTurnFromTheEventLoopOnly) {
     EXPECT_EQ(Take(), Log{});
     a->form->Show();
     EXPECT_EQ(Take(), Log{"A activate"});
+}
+
+TEST_F(ActivationTest, AClosedWindowIsFreedBetweenTheLinesOfATool) {
+    auto closed = MakeChild("A");
+    auto kept = MakeChild("B");
+    const QPointer<ChildWindow> window(&Shown(0));
+    closed->form.reset();
+    platform_.Loop().Yield();
+    EXPECT_TRUE(window) << "whoever yields may have been called by that window";
+    QTimer::singleShot(0, [this] { platform_.Loop().YieldBetween(); });
+    platform_.Loop().Yield();
+    EXPECT_TRUE(window) << "a tool that began within another yield";
+    platform_.Loop().YieldBetween();
+    EXPECT_FALSE(window);
+    EXPECT_EQ(Window().Area().subWindowList().size(), 1);
 }
 
 }  // namespace

@@ -81,7 +81,7 @@ class ToolRun {
   private:
     void RunLine();
     bool IsPassedOver(const std::string& line);
-    void Execute(const std::string& line);
+    void Execute(const std::string& whole);
 
     PaaIkkuna& main_;
     ToolSurroundings surroundings_;

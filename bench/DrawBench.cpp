@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "Beside.h"
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
 #include "platform/scripted/RecordingKuva.h"
@@ -21,25 +22,23 @@ constexpr int16_t kX = 5;
 constexpr int16_t kY = 6;
 constexpr int16_t kLinear = 2;
 constexpr int kBins = 1024;
+constexpr int64_t kBytes = 2 * sizeof(float) + sizeof(uint32_t);  // two values and a pixel
 
 void Prepare(RecordingKuva& surface) {
     PalautaAlkutila();
     surface.SetSize(kSide, kSide);
 }
 
-void Dots(benchmark::State& state, int32_t step) {
+template <int32_t step>
+void Dots(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
     RecordingKuva surface;
     Prepare(surface);
     for (auto _ : state) {
         PiirraPisteet(surface, PlotArea(surface), {file, kX, kY, 0, step}, {1, true, Grey(255)});
     }
+    MovesBytes(state, kBytes * (BenchEvents() / step));
 }
-BENCHMARK_CAPTURE(Dots, all, 1)->Name("Dots/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
-BENCHMARK_CAPTURE(Dots, fast, 21)
-    ->Name("FastDots/ours")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
 
 void Density(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
@@ -49,11 +48,12 @@ void Density(benchmark::State& state) {
     for (auto _ : state) {
         density.Piirra(surface, PlotArea(surface), {file, kX, kY, 0, 1}, 512);
     }
+    MovesBytes(state, kBytes * BenchEvents());
 }
-BENCHMARK(Density)->Name("Density/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 // A whole redraw of a histogram: counting, smoothing, bars and outline.
-void Bars(benchmark::State& state, int16_t channel) {
+template <int16_t channel>
+void Bars(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
     RecordingKuva surface;
     Prepare(surface);
@@ -63,18 +63,12 @@ void Bars(benchmark::State& state, int16_t channel) {
         Tasoita(histo, 2);
         PiirraPylvaat(surface, PlotArea(surface), histo, {KorkeinPylvas(histo), {255, 0, 0}, true});
     }
+    MovesBytes(state, int64_t{sizeof(float)} * BenchEvents());
 }
-BENCHMARK_CAPTURE(Bars, log, kX)
-    ->Name("LogHistogram/ours")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
-BENCHMARK_CAPTURE(Bars, linear, kLinear)
-    ->Name("LinearHistogram/ours")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
 
 // The plain loop of a histogram: projects and counts, and draws nothing.
-void PlainBins(benchmark::State& state, int16_t channel) {
+template <int16_t channel>
+void PlainBins(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
     const AkseliProjektio axis(file.Channels(channel));
     const auto values = file.Data.Sarake(channel);
@@ -89,14 +83,6 @@ void PlainBins(benchmark::State& state, int16_t channel) {
         benchmark::DoNotOptimize(bins.data());
     }
 }
-BENCHMARK_CAPTURE(PlainBins, log, kX)
-    ->Name("LogHistogram/plain")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
-BENCHMARK_CAPTURE(PlainBins, linear, kLinear)
-    ->Name("LinearHistogram/plain")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
 
 // Projects with the same rule, its constants worked out once, and sets a pixel or counts a cell at
 // each event.
@@ -119,21 +105,19 @@ void PlainLoop(benchmark::State& state, std::size_t step, Store store) {
         benchmark::DoNotOptimize(cells.data());
     }
 }
-void PlainStore(benchmark::State& state, std::size_t step) {
+template <std::size_t step>
+void PlainStore(benchmark::State& state) {
     PlainLoop(state, step, [](uint32_t& cell) { cell = 0xffffffff; });
 }
 void PlainCount(benchmark::State& state) {
     PlainLoop(state, 1, [](uint32_t& cell) { ++cell; });
 }
-BENCHMARK_CAPTURE(PlainStore, all, 1)
-    ->Name("Dots/plain")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
-BENCHMARK_CAPTURE(PlainStore, fast, 21)
-    ->Name("FastDots/plain")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
-BENCHMARK(PlainCount)->Name("Density/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+constexpr int32_t kFast = 21;
+const bool kRegistered =
+    Beside("Dots", Dots<1>, PlainStore<1>) && Beside("FastDots", Dots<kFast>, PlainStore<kFast>) &&
+    Beside("Density", Density, PlainCount) && Beside("LogHistogram", Bars<kX>, PlainBins<kX>) &&
+    Beside("LinearHistogram", Bars<kLinear>, PlainBins<kLinear>);
 
 }  // namespace
 }  // namespace tessarin

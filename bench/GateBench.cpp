@@ -1,5 +1,5 @@
-// Evaluating a polygon and a definition, beside copies of the columns that they read and write;
-// the polygon also beside the same job done event by event.
+// Evaluating a polygon and a marker, beside the same job done event by event, and a definition,
+// beside a copy of the columns that it reads and writes.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -8,9 +8,11 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "Beside.h"
 #include "core/FCSReader.h"
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
+#include "plots/MarkerMembership.h"
 #include "plots/PolygonMembership.h"
 #include "populations/Definitions.h"
 
@@ -20,6 +22,8 @@ namespace {
 constexpr int16_t kX = 5;
 constexpr int16_t kY = 6;
 constexpr int16_t kNames = 4;
+constexpr float kLeft = 4000;  // grid places of a marker around the middle cloud
+constexpr float kRight = 6000;
 
 // An octagon around the middle cloud of two log channels.
 void DefineOctagon(Populaatio& population) {
@@ -33,38 +37,18 @@ void DefineOctagon(Populaatio& population) {
                   .Type = "Polygon"};
 }
 
-void Polygon(benchmark::State& state) {
+void Gate(benchmark::State& state) {
     PalautaAlkutila();
     Tiedostot(1) = LueFCS(BenchPath());
     DefineOctagon(Populaatiot(1));
     for (auto _ : state) {
         TarkistaMonikulmio(1);
     }
+    MovesBytes(state, int64_t{2 * sizeof(float) + 1} * BenchEvents());
     const auto members = Tiedostot(1).Membership.Sarake(1);
     state.counters["members"] = static_cast<double>(std::ranges::count(members, 1));
     PalautaAlkutila();
 }
-BENCHMARK(Polygon)->Name("GateBytes/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
-
-void PolygonPlain(benchmark::State& state) {
-    const Tiedosto& file = BenchFile();
-    const auto xs = file.Data.Sarake(kX);
-    const auto ys = file.Data.Sarake(kY);
-    const std::vector<uint8_t> flags(kBenchEvents, 1);
-    std::vector<float> x(kBenchEvents);
-    std::vector<float> y(kBenchEvents);
-    std::vector<uint8_t> inside(kBenchEvents);
-    for (auto _ : state) {
-        std::ranges::copy(xs, x.begin());
-        std::ranges::copy(ys, y.begin());
-        std::ranges::copy(flags, inside.begin());
-        benchmark::DoNotOptimize(x.data());
-        benchmark::DoNotOptimize(y.data());
-        benchmark::DoNotOptimize(inside.data());
-        benchmark::ClobberMemory();
-    }
-}
-BENCHMARK(PolygonPlain)->Name("GateBytes/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 // The same job as one would first write it down: each event is placed on both axes and tested
 // against each edge, one after the other.
@@ -77,9 +61,9 @@ void GatePlain(benchmark::State& state) {
     const auto ys = file.Data.Sarake(kY);
     const AkseliProjektio axisX(file.Channels(kX));
     const AkseliProjektio axisY(file.Channels(kY));
-    std::vector<uint8_t> inside(kBenchEvents);
+    std::vector<uint8_t> inside(static_cast<std::size_t>(BenchEvents()));
     for (auto _ : state) {
-        for (std::size_t i = 0; i < kBenchEvents; ++i) {
+        for (std::size_t i = 0; i < inside.size(); ++i) {
             const double x = axisX.Paikka(static_cast<double>(xs[i]), 10000);
             const double y = 10000 - axisY.Paikka(static_cast<double>(ys[i]), 10000);
             bool in = false;
@@ -101,14 +85,44 @@ void GatePlain(benchmark::State& state) {
     state.counters["members"] = static_cast<double>(std::ranges::count(inside, 1));
     PalautaAlkutila();
 }
-BENCHMARK(GatePlain)->Name("Gate/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
-BENCHMARK(Polygon)->Name("Gate/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+void Marker(benchmark::State& state) {
+    PalautaAlkutila();
+    Tiedostot(1) = LueFCS(BenchPath());
+    Populaatio& marker = Populaatiot(1);
+    marker = {.Corners = 2, .Name = "M-1", .Defined = true, .AxisX = kX, .Type = "Histogram"};
+    marker.X[1] = kLeft;
+    marker.X[2] = kRight;
+    for (auto _ : state) {
+        TarkistaMarkkeri(1);
+    }
+    MovesBytes(state, int64_t{sizeof(float) + 1} * BenchEvents());
+    const auto members = Tiedostot(1).Membership.Sarake(1);
+    state.counters["members"] = static_cast<double>(std::ranges::count(members, 1));
+    PalautaAlkutila();
+}
+
+void MarkerPlain(benchmark::State& state) {
+    const Tiedosto& file = BenchFile();
+    const auto xs = file.Data.Sarake(kX);
+    const AkseliProjektio axis(file.Channels(kX));
+    std::vector<uint8_t> inside(xs.size());
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < inside.size(); ++i) {
+            const double x = axis.Paikka(static_cast<double>(xs[i]), 10000);
+            inside[i] = static_cast<uint8_t>(x >= kLeft && x <= kRight);
+        }
+        benchmark::DoNotOptimize(inside.data());
+        benchmark::ClobberMemory();
+    }
+    state.counters["members"] = static_cast<double>(std::ranges::count(inside, 1));
+}
 
 // A file of nothing but members, spread at random over the first populations.
 void FillMembers(Tiedosto& file) {
     file.Valid = true;
-    file.EventCount = kBenchEvents;
-    file.Membership.Mitoita(kBenchEvents, kPopulationSlots);
+    file.EventCount = BenchEvents();
+    file.Membership.Mitoita(BenchEvents(), kPopulationSlots);
     std::mt19937 random(5);
     for (int16_t slot = 1; slot <= kNames; ++slot) {
         std::ranges::generate(file.Membership.Sarake(slot),
@@ -130,24 +144,26 @@ void Definition(benchmark::State& state) {
             state.SkipWithError(message.c_str());
         }
     }
+    MovesBytes(state, int64_t{kNames + 1} * BenchEvents());
     PalautaAlkutila();
 }
-BENCHMARK(Definition)->Name("Definition/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void DefinitionPlain(benchmark::State& state) {
     Tiedosto file;
     FillMembers(file);
-    std::vector<uint8_t> copy(std::size_t{kNames} * kBenchEvents);
+    std::vector<uint8_t> copy(std::size_t{kNames} * static_cast<std::size_t>(BenchEvents()));
     for (auto _ : state) {
         for (int16_t slot = 1; slot <= kNames; ++slot) {
             std::ranges::copy(file.Membership.Sarake(slot),
-                              copy.begin() + std::ptrdiff_t{slot - 1} * kBenchEvents);
+                              copy.begin() + std::ptrdiff_t{slot - 1} * BenchEvents());
         }
         benchmark::DoNotOptimize(copy.data());
         benchmark::ClobberMemory();
     }
 }
-BENCHMARK(DefinitionPlain)->Name("Definition/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+const bool kRegistered = Beside("Gate", Gate, GatePlain) && Beside("Marker", Marker, MarkerPlain) &&
+                         Beside("Definition", Definition, DefinitionPlain);
 
 }  // namespace
 }  // namespace tessarin

@@ -1,18 +1,38 @@
-// Runs all benchmarks and prints each beside the plainest loop over the same bytes.
+// Runs all benchmarks and prints each beside the plainest loop that does the same.
 //
 // A benchmark is named "Thing/ours" or "Thing/plain"; the table at the end gives the ratio of the
 // two, taken in the same run: these numbers can be compared between machines, the times cannot.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <iomanip>
 #include <iostream>
 #include <map>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "BenchFile.h"
 
 namespace {
 
+using tessarin::BenchEvents;
+
+// Milliseconds of the best repetition, and what a round moves.
+struct Timing {
+    double time = 0;
+    double bytes = 0;
+};
+
 class RatioReporter : public benchmark::ConsoleReporter {
   public:
+    bool ReportContext(const Context& context) override {
+        order_.clear();
+        timings_.clear();
+        return ConsoleReporter::ReportContext(context);
+    }
+
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
         for (const Run& run : runs) {
@@ -21,33 +41,78 @@ class RatioReporter : public benchmark::ConsoleReporter {
             }
             const std::string& name = run.run_name.function_name;
             const auto slash = name.find('/');
+            const std::string thing = name.substr(0, slash);
+            if (!timings_.contains(thing)) {
+                order_.push_back(thing);
+            }
+            Timing& best = timings_[thing][name.substr(slash + 1)];
             const double time = run.GetAdjustedRealTime();
-            double& best = times_[name.substr(0, slash)][name.substr(slash + 1)];
-            best = best == 0 ? time : std::min(best, time);
+            best.time = best.time == 0 ? time : std::min(best.time, time);
+            const auto bytes = run.counters.find("bytes");
+            best.bytes = bytes == run.counters.end() ? 0 : bytes->second.value;
         }
     }
 
     void Finalize() override {
-        std::cout << "\nRatio to the plain loop, best of all repetitions\n";
-        for (auto& [thing, times] : times_) {
-            if (times["plain"] > 0) {
-                std::cout << "  " << thing << ": " << times["ours"] / times["plain"] << "\n";
-            }
+        std::cout << "\n"
+                  << BenchEvents() << " events, best of all repetitions\n"
+                  << "thing                    ms   ns/event      MB    GB/s   ratio to plain\n"
+                  << std::fixed;
+        for (const std::string& thing : order_) {
+            PrintRow(thing, timings_[thing]["ours"], timings_[thing]["plain"]);
         }
     }
 
   private:
-    std::map<std::string, std::map<std::string, double>> times_;
+    static void PrintRow(const std::string& thing, const Timing& ours, const Timing& plain) {
+        constexpr double kMega = 1e6;
+        std::cout << std::left << std::setw(20) << thing << std::right << std::setprecision(3)
+                  << std::setw(10) << ours.time << std::setw(11) << std::setprecision(2)
+                  << ours.time * kMega / BenchEvents() << std::setw(8) << std::setprecision(1)
+                  << ours.bytes / kMega << std::setw(8)
+                  << (ours.time > 0 ? ours.bytes / kMega / ours.time : 0) << std::setw(9)
+                  << std::setprecision(2) << (plain.time > 0 ? ours.time / plain.time : 0) << "\n";
+    }
+
+    std::vector<std::string> order_;
+    std::map<std::string, std::map<std::string, Timing>> timings_;
 };
+
+// Takes our own options out of the arguments; gives the numbers of events to run with.
+std::vector<int32_t> TakeSizes(std::vector<char*>& arguments) {
+    constexpr std::string_view kEvents = "--events=";
+    std::vector<int32_t> sizes;
+    std::erase_if(arguments, [&](const char* argument) {
+        if (std::string_view(argument).starts_with(kEvents)) {
+            sizes.push_back(std::atoi(argument + kEvents.size()));
+            return true;
+        }
+        return false;
+    });
+    if (sizes.empty()) {
+        sizes.push_back(BenchEvents());
+    }
+    return sizes;
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+    std::vector<char*> arguments(argv, argv + argc);
+    const std::vector<int32_t> sizes = TakeSizes(arguments);
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
         return 1;
     }
     RatioReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    for (const int32_t size : sizes) {
+        if (size < 1) {
+            std::cerr << "--events=N: N is a whole number from 1\n";
+            return 1;
+        }
+        tessarin::SetBenchEvents(size);
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+    }
     return 0;
 }

@@ -6,24 +6,26 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "Beside.h"
 #include "core/Projektio.h"
 
 namespace tessarin {
 namespace {
 
 constexpr int16_t kLogChannel = 6;
+constexpr int64_t kBytesPerEvent = sizeof(float) + sizeof(double);
 
 void Ours(benchmark::State& state) {
     const Tiedosto& file = BenchFile();
-    std::vector<int32_t> events(kBenchEvents);
+    std::vector<int32_t> events(static_cast<std::size_t>(BenchEvents()));
     std::iota(events.begin(), events.end(), 1);
     std::vector<double> positions(events.size());
     for (auto _ : state) {
         AnnaPaikat(file, events, kLogChannel, 10000, positions);
         benchmark::DoNotOptimize(positions.data());
     }
+    MovesBytes(state, kBytesPerEvent * BenchEvents());
 }
-BENCHMARK(Ours)->Name("Project/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void Plain(benchmark::State& state) {
     const auto values = BenchFile().Data.Sarake(kLogChannel);
@@ -34,8 +36,10 @@ void Plain(benchmark::State& state) {
         }
         benchmark::DoNotOptimize(positions.data());
     }
+    MovesBytes(state, kBytesPerEvent * BenchEvents());
 }
-BENCHMARK(Plain)->Name("Project/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+const bool kRegistered = Beside("Project", Ours, Plain);
 
 }  // namespace
 }  // namespace tessarin

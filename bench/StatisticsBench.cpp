@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "Beside.h"
 #include "core/Muuttujat.h"
 #include "plots/HistogramStatistics.h"
 #include "plots/Tilastot.h"
@@ -39,8 +40,8 @@ void DotStatistics(benchmark::State& state) {
     for (auto _ : state) {
         LaskeTilastot({file, kX, kY, 0, 1}, statistics);
     }
+    MovesBytes(state, int64_t{2 * sizeof(float) + kRows} * BenchEvents());
 }
-BENCHMARK(DotStatistics)->Name("DotStatistics/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void HistogramStatistics(benchmark::State& state) {
     const Tiedosto& file = Prepare("Histogram");
@@ -48,11 +49,8 @@ void HistogramStatistics(benchmark::State& state) {
     for (auto _ : state) {
         LaskeHistoTilastot({file, kX}, rows);
     }
+    MovesBytes(state, int64_t{2 * (sizeof(float) + kRows)} * BenchEvents());  // two passes
 }
-BENCHMARK(HistogramStatistics)
-    ->Name("HistogramStatistics/ours")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
 
 double Log(float value) {
     return value > 0 ? std::log10(static_cast<double>(value)) : 0;
@@ -85,7 +83,6 @@ void PlainDots(benchmark::State& state) {
         }
     }
 }
-BENCHMARK(PlainDots)->Name("DotStatistics/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void PlainHistogram(benchmark::State& state) {
     const Tiedosto& file = Prepare("Histogram");
@@ -115,10 +112,9 @@ void PlainHistogram(benchmark::State& state) {
         }
     }
 }
-BENCHMARK(PlainHistogram)
-    ->Name("HistogramStatistics/plain")
-    ->Unit(benchmark::kMillisecond)
-    ->Repetitions(5);
+
+const bool kRegistered = Beside("DotStatistics", DotStatistics, PlainDots) &&
+                         Beside("HistogramStatistics", HistogramStatistics, PlainHistogram);
 
 }  // namespace
 }  // namespace tessarin

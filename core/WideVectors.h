@@ -6,7 +6,7 @@
 /// and each element is worked out for itself. Sanitizers cannot follow the choice and get one form.
 #if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && \
     !defined(__SANITIZE_ADDRESS__)
-#define TESSARIN_WIDE __attribute__((target_clones("avx2", "default")))
+#define TESSARIN_WIDE __attribute__((target_clones("avx512f", "avx2", "default")))
 #else
 #define TESSARIN_WIDE
 #endif

@@ -1,10 +1,14 @@
-// The autosave of a full session, beside writing a file of the same bytes in the plainest way.
+// The autosave of a full session and its loading, beside writing and reading a file of the same
+// bytes in the plainest way.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <string>
+#include <vector>
 
+#include "Beside.h"
 #include "core/Muuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
@@ -55,6 +59,7 @@ class FullSession {
         Populaatiot(1).Name = "Step " + std::to_string(round % 10);  // something has changed
         main_->TalletaNakyma("Autosave");
     }
+    void Load() { main_->LataaNakyma(Path("autosave.tessarin")); }
     std::string Path(const char* name) const { return (folder_ / name).string(); }
 
   private:
@@ -64,26 +69,61 @@ class FullSession {
     std::unique_ptr<SheetStore> store_;
 };
 
+std::string BytesOf(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+int64_t SheetBytes(const FullSession& session) {
+    return static_cast<int64_t>(std::filesystem::file_size(session.Path("autosave.tessarin")));
+}
+
 void Autosave(benchmark::State& state) {
     FullSession session;
     int64_t round = 0;
     for (auto _ : state) {
         session.Save(++round);
     }
+    MovesBytes(state, SheetBytes(session));
 }
-BENCHMARK(Autosave)->Name("Autosave/ours")->Unit(benchmark::kMillisecond)->Repetitions(5);
 
 void PlainWrite(benchmark::State& state) {
     FullSession session;
     session.Save(1);
-    std::ifstream in(session.Path("autosave.tessarin"), std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    const std::string bytes = BytesOf(session.Path("autosave.tessarin"));
     for (auto _ : state) {
         std::ofstream(session.Path("plain"), std::ios::binary) << bytes;
     }
-    state.counters["bytes"] = static_cast<double>(bytes.size());
 }
-BENCHMARK(PlainWrite)->Name("Autosave/plain")->Unit(benchmark::kMillisecond)->Repetitions(5);
+
+void SheetLoad(benchmark::State& state) {
+    FullSession session;
+    session.Save(1);
+    for (auto _ : state) {
+        session.Load();
+    }
+    if (!Ikkunat(MaxWindows).Used) {
+        state.SkipWithError("the sheet has lost a window");
+    }
+    MovesBytes(state, SheetBytes(session));
+}
+
+// Reads the file and cuts it into lines.
+void PlainLoad(benchmark::State& state) {
+    FullSession session;
+    session.Save(1);
+    for (auto _ : state) {
+        std::ifstream in(session.Path("autosave.tessarin"), std::ios::binary);
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(in, line);) {
+            lines.push_back(line);
+        }
+        benchmark::DoNotOptimize(lines.data());
+    }
+}
+
+const bool kRegistered =
+    Beside("Autosave", Autosave, PlainWrite) && Beside("SheetLoad", SheetLoad, PlainLoad);
 
 }  // namespace
 }  // namespace tessarin

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cassert>
 #include <cmath>
 #include <limits>
+#include <utility>
 
+#include "core/EventValues.h"
 #include "core/Logarithm.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
@@ -16,6 +19,36 @@ namespace {
 
 constexpr std::size_t kBlock = 256;        // events placed at a time
 constexpr int32_t kShiftedRange = 262144;  // the 18-bit scale
+
+// Singles as whole numbers in their order, so that a search can halve between any two of them.
+constexpr uint32_t kSign = 0x80000000U;
+
+uint32_t OrderOf(float value) {
+    const auto bits = std::bit_cast<uint32_t>(value);
+    return (bits & kSign) != 0 ? ~bits : bits | kSign;
+}
+
+float InOrder(uint32_t place) {
+    return std::bit_cast<float>((place & kSign) != 0 ? place & ~kSign : ~place);
+}
+
+// With `isLow` true up to some single and false behind it: two neighbours between which it ends,
+// -infinity or infinity where it does not hold at all or does not end.
+template <class IsLow>
+std::pair<float, float> Border(IsLow isLow) {
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    if (!isLow(-kInfinity) || isLow(kInfinity)) {
+        const float all = isLow(kInfinity) ? kInfinity : -kInfinity;
+        return {all, all};
+    }
+    uint32_t low = OrderOf(-kInfinity);
+    uint32_t high = OrderOf(kInfinity);
+    while (high - low > 1) {
+        const uint32_t middle = low + (high - low) / 2;
+        (isLow(InOrder(middle)) ? low : high) = middle;
+    }
+    return {InOrder(low), InOrder(high)};
+}
 
 // The neg value bumper: values that a log axis could not show are folded to just above 1.
 double Bumped(double value) {
@@ -106,6 +139,29 @@ TESSARIN_WIDE void AkseliProjektio::Place(std::span<double> values, double scale
     }
 }
 
+// Positions rise with the value, but for two things. Rounding moves each by far less than a part in
+// 1e9 of the scale. And on a log axis all values up to 1 (with the shift) share one position, which
+// may be above those of the next few.
+AkseliProjektio::Arvorajat AkseliProjektio::RajatPaikalle(double position, double scale) const {
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    if (!usable_ || KaytaNegAbsJuttua) {
+        return {-kInfinity, kInfinity};
+    }
+    constexpr double kRounding = 1e-9;
+    const double slack = scale * kRounding;
+    const double foot = Paikka(-static_cast<double>(kInfinity), scale);
+    const float below =
+        Border([&](float value) {
+            return std::max(foot, Paikka(static_cast<double>(value), scale)) < position - slack;
+        }).first;
+    const float above =
+        Border([&](float value) {
+            const bool isFoot = isLog_ && shift_ + static_cast<double>(value) <= 1;
+            return isFoot || !(Paikka(static_cast<double>(value), scale) > position + slack);
+        }).second;
+    return {below, above};
+}
+
 void AkseliProjektio::TapahtumienPaikat(std::span<const float> values,
                                         std::span<const int32_t> events, double scale,
                                         std::span<double> positions) const {
@@ -113,9 +169,7 @@ void AkseliProjektio::TapahtumienPaikat(std::span<const float> values,
     std::array<double, kBlock> block;
     for (std::size_t done = 0; done < events.size(); done += kBlock) {
         const std::size_t count = std::min(kBlock, events.size() - done);
-        for (std::size_t i = 0; i < count; ++i) {
-            block[i] = static_cast<double>(values[static_cast<std::size_t>(events[done + i]) - 1]);
-        }
+        PoimiArvot(values, events.subspan(done, count), block);
         if (KaytaNegAbsJuttua) {
             for (std::size_t i = 0; i < count; ++i) {
                 block[i] = Bumped(block[i]);

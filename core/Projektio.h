@@ -38,9 +38,20 @@ class AkseliProjektio {
     double TapahtumanPaikka(double value, double scale) const;
 
     /// The same for the values of a list of events, to the last bit: `positions[i]` is that of
-    /// `values[events[i] - 1]`.
+    /// `values[events[i] - 1]`. Events that follow each other are placed fastest.
     void TapahtumienPaikat(std::span<const float> values, std::span<const int32_t> events,
                            double scale, std::span<double> positions) const;
+
+    /// `Arvorajat` means value limits: values around a position, so that most events need no
+    /// projection to tell on which side of it they are. `TapahtumanPaikka` is surely below
+    /// `position` for every value below `below`, and surely above it for every value above `above`;
+    /// what lies between them, and what is not a number, has to be projected. The limits are
+    /// infinite where nothing is sure. REQUIRES: scale above 0.
+    struct Arvorajat {
+        float below;
+        float above;
+    };
+    Arvorajat RajatPaikalle(double position, double scale) const;
 
   private:
     void Place(std::span<double> values, double scale, double* positions) const;

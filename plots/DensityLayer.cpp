@@ -6,15 +6,40 @@
 
 #include "core/Numbers.h"
 #include "core/Projektio.h"
+#include "core/WideVectors.h"
 
 namespace tessarin {
 namespace {
 
 constexpr int kLightest = 18;  // events from which a cell is white
 
-int Cell(double place, int resolution) {
-    return ToInt32(
-        std::clamp(Int(place), -1.0 * TiheysKuva::kSlack, 1.0 * resolution + TiheysKuva::kSlack));
+// The cells of one block of events.
+struct CellBlock {
+    std::array<int32_t, KaytetytTapahtumat::kBlock> x;
+    std::array<int32_t, KaytetytTapahtumat::kBlock> y;
+};
+
+// The cell of each place, those beyond the slack in its outermost. Cutting goes towards 0, so one
+// is taken off where that went up.
+TESSARIN_WIDE void CellsOf(std::span<const double> places, int resolution,
+                           std::span<int32_t> cells) {
+    const double least = -1.0 * TiheysKuva::kSlack;
+    const double most = 1.0 * resolution + TiheysKuva::kSlack;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const double above = places[i] < least ? least : places[i];
+        const double place = above > most ? most : above;
+        const auto cut = static_cast<int32_t>(place);
+        cells[i] = cut - (static_cast<double>(cut) > place ? 1 : 0);
+    }
+}
+
+// The first pixel of each cell on one axis, from the outermost of the slack on.
+std::vector<double> FirstPixels(double start, double length, int resolution) {
+    std::vector<double> pixels;
+    for (int cell = -TiheysKuva::kSlack; cell <= resolution + TiheysKuva::kSlack; ++cell) {
+        pixels.push_back(start + length * cell / resolution);
+    }
+    return pixels;
 }
 
 // How large a cell is painted, in pixels; both corners of its rectangle are included.
@@ -54,25 +79,32 @@ void TiheysKuva::Piirra(Kuva& surface, const PlotArea& area, const PlotData& dat
     side_ = resolution + 2 * kSlack + 1;
     cells_.assign(static_cast<std::size_t>(side_) * static_cast<std::size_t>(side_), 0);
     const auto& shades = ShadePixels();
+    const auto columns = FirstPixels(area.Left(), area.XLength(), resolution);
+    const auto rows = FirstPixels(area.Top(), area.YLength(), resolution);
     std::array<double, KaytetytTapahtumat::kBlock> x;
     std::array<double, KaytetytTapahtumat::kBlock> y;
     std::array<uint32_t, KaytetytTapahtumat::kBlock> pixel;
+    CellBlock cells;
     Blocks blocks = CellSize(area, resolution);
     KaytetytTapahtumat used(data.file, data.gate, data.PiirtoVali);
     for (auto events = used.Next(); !events.empty(); events = used.Next()) {
+        const std::size_t count = events.size();
         AnnaPaikat(data.file, events, data.KanavaX, resolution, x);
         AnnaPaikat(data.file, events, data.KanavaY, resolution, y);
-        for (std::size_t i = 0; i < events.size(); ++i) {
-            const int ix = Cell(x[i], resolution);
-            const int iy = Cell(resolution - y[i], resolution);
-            const int32_t count = ++cells_[Place(ix, iy)];
-            pixel[i] = shades[static_cast<std::size_t>(std::min(count, kLightest))];
-            x[i] = area.Left() + area.XLength() * ix / resolution;
-            y[i] = area.Top() + area.YLength() * iy / resolution;
+        for (std::size_t i = 0; i < count; ++i) {
+            y[i] = resolution - y[i];
         }
-        blocks.x = {x.data(), events.size()};
-        blocks.y = {y.data(), events.size()};
-        blocks.pixel = {pixel.data(), events.size()};
+        CellsOf({x.data(), count}, resolution, cells.x);
+        CellsOf({y.data(), count}, resolution, cells.y);
+        for (std::size_t i = 0; i < count; ++i) {
+            const int32_t inCell = ++cells_[Place(cells.x[i], cells.y[i])];
+            pixel[i] = shades[static_cast<std::size_t>(std::min(inCell, kLightest))];
+            x[i] = columns[static_cast<std::size_t>(cells.x[i] + kSlack)];
+            y[i] = rows[static_cast<std::size_t>(cells.y[i] + kSlack)];
+        }
+        blocks.x = {x.data(), count};
+        blocks.y = {y.data(), count};
+        blocks.pixel = {pixel.data(), count};
         surface.PaintBlocks(blocks);
     }
 }

@@ -1,30 +1,55 @@
 #include "plots/MarkerMembership.h"
 
 #include <algorithm>
-#include <array>
 #include <span>
 
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
+#include "core/WideVectors.h"
 #include "plots/PlotArea.h"
-#include "plots/UsedEvents.h"
 #include "populations/Definitions.h"
 
 namespace tessarin {
 namespace {
 
+// Both ends of a marker as limits of values.
+struct MarkerLimits {
+    AkseliProjektio::Arvorajat left;
+    AkseliProjektio::Arvorajat right;
+};
+
+// Sets the members that are sure by their values; False when some are not.
+TESSARIN_WIDE bool SetSureMembers(std::span<const float> values, const MarkerLimits limits,
+                                  std::span<uint8_t> members) {
+    uint8_t open = 0;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        const float value = values[i];
+        const bool in = (value > limits.left.above) & (value < limits.right.below);
+        const bool out = (value < limits.left.below) | (value > limits.right.above);
+        members[i] = in ? 1 : 0;
+        open = static_cast<uint8_t>(open | (in | out ? 0 : 1));
+    }
+    return open == 0;
+}
+
+// Most values tell by themselves on which side of both ends they lie. Blocks with one that does
+// not, or that is not a number, are projected.
 void TestFile(Tiedosto& file, int16_t slot, int16_t channel, double low, double high) {
+    const std::span<const float> values = file.Data.Sarake(channel);
     const std::span<uint8_t> members = file.Membership.Sarake(slot);
-    std::array<double, KaytetytTapahtumat::kBlock> position;
-    KaytetytTapahtumat all(file, 0, 1);
-    std::size_t done = 0;
-    for (auto events = all.Next(); !events.empty(); events = all.Next()) {
-        AnnaPaikat(file, events, channel, kGrid, position);
-        for (std::size_t i = 0; i < events.size(); ++i) {
-            const bool inside = low <= position[i] && position[i] <= high;
-            members[done + i] = static_cast<uint8_t>(inside);
+    const AkseliProjektio axis(file.Channels(channel));
+    const MarkerLimits limits{axis.RajatPaikalle(low, kGrid), axis.RajatPaikalle(high, kGrid)};
+    constexpr std::size_t kBlock = 512;
+    for (std::size_t from = 0; from < values.size(); from += kBlock) {
+        const std::size_t count = std::min(kBlock, values.size() - from);
+        const auto block = values.subspan(from, count);
+        const auto inside = members.subspan(from, count);
+        if (!SetSureMembers(block, limits, inside)) {
+            std::ranges::transform(block, inside.begin(), [&](float value) {
+                const double position = axis.TapahtumanPaikka(static_cast<double>(value), kGrid);
+                return static_cast<uint8_t>(low <= position && position <= high);
+            });
         }
-        done += events.size();
     }
 }
 

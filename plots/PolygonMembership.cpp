@@ -2,33 +2,91 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <span>
 #include <vector>
 
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
+#include "core/WideVectors.h"
 #include "plots/PlotArea.h"
-#include "plots/UsedEvents.h"
 #include "populations/Definitions.h"
 #include "populations/PolygonTest.h"
 
 namespace tessarin {
 namespace {
 
-// The grid places of one block of events.
+constexpr std::size_t kBlock = 2048;  // events whose places stay near the processor
+
+// Tells of most events outside a polygon by their values alone, so that only the others are
+// projected. Events left of it stay: at exactly the height of a corner they may be inside.
+class Sieve {
+  public:
+    Sieve(const Tiedosto& file, const Populaatio& polygon, std::span<const Kulma> corners)
+        : xs_(file.Data.Sarake(polygon.AxisX)), ys_(file.Data.Sarake(polygon.AxisY)) {
+        if (corners.empty()) {
+            return;
+        }
+        const auto [left, right] = std::ranges::minmax(corners, {}, &Kulma::x);
+        const auto [top, bottom] = std::ranges::minmax(corners, {}, &Kulma::y);
+        const AkseliProjektio xAxis(file.Channels(polygon.AxisX));
+        const AkseliProjektio yAxis(file.Channels(polygon.AxisY));
+        // A place becomes a single before it is tested, and may come to lie on the border.
+        constexpr double kSingle = 1;
+        right_ = xAxis.RajatPaikalle(right.x + kSingle, kGrid).above;
+        low_ = yAxis.RajatPaikalle(kGrid - bottom.y - kSingle, kGrid).below;
+        high_ = yAxis.RajatPaikalle(kGrid - top.y + kSingle, kGrid).above;
+    }
+
+    // The events of the block behind `from` events that may be inside.
+    std::span<const int32_t> Sift(std::size_t from, std::size_t count) {
+        std::array<uint8_t, kBlock> stays;
+        Flag(xs_.subspan(from, count), ys_.subspan(from, count), stays);
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            kept_[kept] = static_cast<int32_t>(from + i + 1);
+            kept += stays[i];
+        }
+        return {kept_.data(), kept};
+    }
+
+  private:
+    TESSARIN_WIDE void Flag(std::span<const float> xs, std::span<const float> ys,
+                            std::span<uint8_t> stays) const {
+        const float right = right_;
+        const float low = low_;
+        const float high = high_;
+        for (std::size_t i = 0; i < xs.size(); ++i) {
+            const bool out = (xs[i] > right) | (ys[i] < low) | (ys[i] > high);
+            stays[i] = out ? 0 : 1;
+        }
+    }
+
+    static constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    std::span<const float> xs_;
+    std::span<const float> ys_;
+    float right_ = kInfinity;
+    float low_ = -kInfinity;
+    float high_ = kInfinity;
+    std::array<int32_t, kBlock> kept_;
+};
+
+// The grid places of one block of events, and which of them are inside.
 struct GridBlock {
-    std::array<double, KaytetytTapahtumat::kBlock> position;
-    std::array<float, KaytetytTapahtumat::kBlock> x;
-    std::array<float, KaytetytTapahtumat::kBlock> y;
+    std::array<double, kBlock> position;
+    std::array<float, kBlock> x;
+    std::array<float, kBlock> y;
+    std::array<uint8_t, kBlock> inside;
 };
 
 void TestFile(Tiedosto& file, int16_t slot, const Populaatio& polygon,
               std::span<const Kulma> corners) {
     const std::span<uint8_t> members = file.Membership.Sarake(slot);
+    std::ranges::fill(members, uint8_t{0});
+    Sieve sieve(file, polygon, corners);
     GridBlock block;
-    KaytetytTapahtumat all(file, 0, 1);
-    std::size_t done = 0;
-    for (auto events = all.Next(); !events.empty(); events = all.Next()) {
+    for (std::size_t from = 0; from < members.size(); from += kBlock) {
+        const auto events = sieve.Sift(from, std::min(kBlock, members.size() - from));
         const std::size_t count = events.size();
         AnnaPaikat(file, events, polygon.AxisX, kGrid, block.position);
         for (std::size_t i = 0; i < count; ++i) {
@@ -39,8 +97,10 @@ void TestFile(Tiedosto& file, int16_t slot, const Populaatio& polygon,
             block.y[i] = static_cast<float>(kGrid - block.position[i]);
         }
         PolygoninSisalla({block.x.data(), count}, {block.y.data(), count}, corners,
-                         members.subspan(done, count));
-        done += count;
+                         {block.inside.data(), count});
+        for (std::size_t i = 0; i < count; ++i) {
+            members[static_cast<std::size_t>(events[i]) - 1] = block.inside[i];
+        }
     }
 }
 

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "core/EventValues.h"
 #include "core/Muuttujat.h"
 #include "plots/UsedEvents.h"
 
@@ -24,21 +25,21 @@ std::vector<int16_t> TilastoRivit(HasRow hasRow) {
 }
 
 /// Goes through the events of `used`, a block at a time: `take(events)` is told each block, then
-/// `add(0, i)` for each of its events and `add(slot, i)` for those that are members of a slot.
+/// `add(0, count, masks)` with a mask of ones for each of its events, and `add(slot, count, masks)`
+/// with those of the `count` members of a slot, unless there are none.
 template <class Take, class Add>
 void KayRivit(const Tiedosto& file, KaytetytTapahtumat used, const std::vector<int16_t>& slots,
               Take take, Add add) {
+    std::array<uint64_t, KaytetytTapahtumat::kBlock> all;
+    std::array<uint64_t, KaytetytTapahtumat::kBlock> masks;
+    all.fill(~uint64_t{0});
     for (auto events = used.Next(); !events.empty(); events = used.Next()) {
         take(events);
-        for (std::size_t i = 0; i < events.size(); ++i) {
-            add(0, i);
-        }
+        add(int16_t{0}, static_cast<int32_t>(events.size()), all);
         for (const int16_t slot : slots) {
-            const auto members = file.Membership.Sarake(slot);
-            for (std::size_t i = 0; i < events.size(); ++i) {
-                if (members[static_cast<std::size_t>(events[i]) - 1] == 1) {
-                    add(slot, i);
-                }
+            const int32_t members = PoimiMaskit(file.Membership.Sarake(slot), events, masks);
+            if (members > 0) {
+                add(slot, members, masks);
             }
         }
     }

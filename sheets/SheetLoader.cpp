@@ -146,7 +146,9 @@ class SheetLoader {
         if (line.KeyFrom(3) == "name") {
             names_[slot] = line.rest;
         } else if (line.KeyFrom(3) == "length") {
-            const auto length = static_cast<int64_t>(SheetNumber(line.value).value_or(-1));
+            const double told = SheetNumber(line.value).value_or(-1);
+            const bool possible = told >= 0 && told <= static_cast<double>(kLongest);
+            const int64_t length = possible ? static_cast<int64_t>(told) : -1;
             const Purkutulos taken = PuraTiedosto(sheet_.path, names_[slot], content_, length);
             const bool sound = length >= 0 && length <= kLongest - content_;
             content_ = sound ? content_ + length : kLongest;

@@ -102,6 +102,41 @@ TEST_F(ProjectionTest, ColumnsAgreeWithSingleEventsToTheLastBit) {
     }
 }
 
+// A value whose limits are wrong would change sides of a region without being projected.
+TEST_F(ProjectionTest, LimitsOfValuesAreSureAndClose) {
+    constexpr double kScale = 10000;
+    std::mt19937 random(11);
+    const auto any = [&random] { return std::bit_cast<float>(static_cast<uint32_t>(random())); };
+    for (const int32_t range : {0, 1, 2, 1000, 1024, 10000, 262143, 262144, 2147483647}) {
+        for (const unsigned kind : {0U, 1U, 2U, 3U}) {
+            KaytaNegAbsJuttua = kind >= 2;
+            const AkseliProjektio axis(kind % 2 == 1, range);
+            for (int i = 0; i < 200; ++i) {
+                const float near = static_cast<float>(random() % 300000) - 100;
+                const double position = i % 2 == 0 ? axis.TapahtumanPaikka(near, kScale)
+                                                   : static_cast<double>(random() % 10002) - 1;
+                const auto limits = axis.RajatPaikalle(position, kScale);
+                float below = limits.below;
+                float above = limits.above;
+                for (int k = 0; k < 40; ++k) {
+                    below = std::nextafter(below, -INFINITY);
+                    above = std::nextafter(above, INFINITY);
+                    for (const float value : {near, any(), below, above}) {
+                        const double place = axis.TapahtumanPaikka(value, kScale);
+                        ASSERT_TRUE(!(value < limits.below) || place < position) << value;
+                        ASSERT_TRUE(!(value > limits.above) || place > position) << value;
+                    }
+                }
+            }
+        }
+    }
+    KaytaNegAbsJuttua = false;
+    const auto limits = AkseliProjektio(true, 262144).RajatPaikalle(5000, kScale);
+    const double middle = std::pow(10.0, (62943 + (262144 - 62943) / 2.0) / 48379) - 40;
+    EXPECT_NEAR(limits.below, middle, 0.001) << "where nothing is sure, everything is projected";
+    EXPECT_NEAR(limits.above, middle, 0.001);
+}
+
 TEST(Logarithm, ColumnsAgreeWithSingleValues) {
     const std::vector<double> values = {1, 0, -3, 2.5, 1e-30, 3.4e38, NAN, INFINITY, -INFINITY};
     std::vector<double> logs(values.size());

@@ -1,13 +1,18 @@
 // The statistics of a dot plot and the window that shows them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 #include "mainwindow/WindowList.h"
 #include "plots/EventText.h"
+#include "plots/HistogramStatistics.h"
 #include "plots/Statistics.h"
+#include "plots/Tilastot.h"
 #include "tests/support/PlotFixture.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -58,6 +63,66 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "xmean"), 50);
     EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("zz", "number"), std::nullopt);
     EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "median"), std::nullopt);
+}
+
+// Sums are taken by blocks and vectors; here they are taken event by event.
+TEST_F(StatisticsTest, AgreeWithASumOverEveryEvent) {
+    constexpr int32_t kEvents = 5003;
+    std::mt19937 random(9);
+    std::vector<float> values(kEvents);
+    std::ranges::generate(values, [&] { return static_cast<float>(random() % 100000) / 8 - 500; });
+    values[4000] = INFINITY;  // a member of nothing
+    Tiedosto& file =
+        PutFile(1, "many.fcs", {{"a", false, 1000, values}, {"b", false, 1000, values}});
+    std::ranges::reverse(file.Data.Sarake(2));
+    for (const int16_t slot : std::array<int16_t, 2>{1, 2}) {
+        DefinePolygon(slot, "P" + std::to_string(slot), {1, 1, 1}, {});
+        std::ranges::generate(file.Membership.Sarake(slot), [&] { return random() % 3 == 0; });
+        file.Membership(4001, slot) = 0;
+        file.Membership(kEvents - 4000, slot) = 0;
+    }
+    for (const int16_t gate : std::array<int16_t, 2>{0, 1}) {
+        for (const int32_t step : {1, 7}) {
+            long double count = 0;
+            std::array<long double, 4> sums{};
+            for (int32_t event = 1; event <= kEvents; event += step) {
+                const bool member = file.Membership(event, 2) == 1;
+                if (member && (gate == 0 || file.Membership(event, gate) == 1)) {
+                    ++count;
+                    for (const int16_t channel : std::array<int16_t, 2>{1, 2}) {
+                        const long double value = file.Data(event, channel);
+                        const auto at = static_cast<std::size_t>(channel) - 1;
+                        sums[at] += value;
+                        sums[at + 2] += value > 0 ? std::log10(value) : 0;
+                    }
+                }
+            }
+            Tilastot statistics;
+            LaskeTilastot({file, 1, 2, gate, step}, statistics);
+            const TilastoRivi& row = statistics.Rivit[2];
+            EXPECT_EQ(row.Lukumaara, count);
+            EXPECT_NEAR(row.XKeski, static_cast<double>(sums[0] / count), 1e-9);
+            EXPECT_NEAR(row.YKeski, static_cast<double>(sums[1] / count), 1e-9);
+            EXPECT_NEAR(row.XGeo, std::pow(10.0, static_cast<double>(sums[2] / count)), 1e-9);
+            EXPECT_NEAR(row.YGeo, std::pow(10.0, static_cast<double>(sums[3] / count)), 1e-9);
+
+            Populaatiot(2).Type = "Histogram";
+            std::vector<HistoRivi> rows(kPopulationSlots + 1);
+            LaskeHistoTilastot({file, 1, gate, step}, rows);
+            Populaatiot(2).Type = "Polygon";
+            EXPECT_EQ(rows[2].Lukumaara, count);
+            EXPECT_EQ(rows[2].XKeski, row.XKeski);
+            long double squares = 0;
+            for (int32_t event = 1; event <= kEvents; event += step) {
+                const bool member = file.Membership(event, 2) == 1;
+                if (member && (gate == 0 || file.Membership(event, gate) == 1)) {
+                    squares += std::pow(file.Data(event, 1) - sums[0] / count, 2.0L);
+                }
+            }
+            EXPECT_NEAR(rows[2].CV, static_cast<double>(std::sqrt(squares / count)) / row.XKeski,
+                        1e-12);
+        }
+    }
 }
 
 TEST_F(StatisticsTest, QuadrantsDivideOnTheGrid) {

@@ -55,6 +55,13 @@ TEST_F(MembershipTest, PolygonsHoldWhatIsInsideThemOnTheGrid) {
             region.X[corner] = static_cast<float>(random() % 12000) - 1000;
             region.Y[corner] = static_cast<float>(random() % 12000) - 1000;
         }
+        if (round % 4 == 0) {  // an upright rectangle, with events near all its sides
+            region.Corners = 4;
+            region.X[2] = region.X[1];
+            region.Y[3] = region.Y[2];
+            region.X[4] = region.X[3];
+            region.Y[4] = region.Y[1];
+        }
         TarkistaMonikulmio(1);
         const auto corners = PopulaationKulmat(region);
         for (int32_t event = 1; event <= file.EventCount; ++event) {

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "core/FCSReader.h"
+#include "core/Muuttujat.h"
 
 namespace tessarin {
 namespace {
@@ -155,9 +156,14 @@ const std::string& BenchPath(BenchForm form) {
     return file->Path();
 }
 
+Tiedosto LoadBenchFile(BenchForm form) {
+    MaxLoadedEvents = BenchEvents();
+    return LueFCS(BenchPath(form));
+}
+
 const Tiedosto& BenchFile() {
     if (loadedFile == nullptr) {
-        loadedFile = std::make_unique<Tiedosto>(LueFCS(BenchPath()));
+        loadedFile = std::make_unique<Tiedosto>(LoadBenchFile());
     }
     return *loadedFile;
 }

@@ -32,6 +32,9 @@ int BenchValueBytes(BenchForm form);
 /// integers are all linear.
 const std::string& BenchPath(BenchForm form = BenchForm::kBigEndianFloats);
 
+/// Loads all events of the file, whatever the session's limit is.
+Tiedosto LoadBenchFile(BenchForm form = BenchForm::kBigEndianFloats);
+
 /// The file of big-endian floats, loaded on first use.
 const Tiedosto& BenchFile();
 

@@ -9,7 +9,6 @@
 
 #include "BenchFile.h"
 #include "Beside.h"
-#include "core/FCSReader.h"
 #include "core/Muuttujat.h"
 #include "core/Projektio.h"
 #include "plots/MarkerMembership.h"
@@ -39,7 +38,7 @@ void DefineOctagon(Populaatio& population) {
 
 void Gate(benchmark::State& state) {
     PalautaAlkutila();
-    Tiedostot(1) = LueFCS(BenchPath());
+    Tiedostot(1) = LoadBenchFile();
     DefineOctagon(Populaatiot(1));
     for (auto _ : state) {
         TarkistaMonikulmio(1);
@@ -88,7 +87,7 @@ void GatePlain(benchmark::State& state) {
 
 void Marker(benchmark::State& state) {
     PalautaAlkutila();
-    Tiedostot(1) = LueFCS(BenchPath());
+    Tiedostot(1) = LoadBenchFile();
     Populaatio& marker = Populaatiot(1);
     marker = {.Corners = 2, .Name = "M-1", .Defined = true, .AxisX = kX, .Type = "Histogram"};
     marker.X[1] = kLeft;

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "OpeningPeak.h"
 
 namespace {
 
@@ -113,6 +114,7 @@ int main(int argc, char** argv) {
         }
         tessarin::SetBenchEvents(size);
         benchmark::RunSpecifiedBenchmarks(&reporter);
+        tessarin::PrintOpeningPeak();
     }
     return 0;
 }

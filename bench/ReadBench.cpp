@@ -8,7 +8,6 @@
 
 #include "BenchFile.h"
 #include "Beside.h"
-#include "core/FCSReader.h"
 #include "core/Kompensaatio.h"
 
 namespace tessarin {
@@ -30,7 +29,7 @@ template <BenchForm form>
 void Read(benchmark::State& state) {
     BenchPath(form);
     for (auto _ : state) {
-        Tiedosto file = LueFCS(BenchPath(form));
+        Tiedosto file = LoadBenchFile(form);
         LaskeKompensaatio(file);
         benchmark::DoNotOptimize(file.Data(1, 1));
     }

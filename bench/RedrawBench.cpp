@@ -8,7 +8,6 @@
 
 #include "BenchFile.h"
 #include "Beside.h"
-#include "core/FCSReader.h"
 #include "core/Muuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
@@ -43,7 +42,7 @@ class TenWindows {
         main_ = std::make_unique<PaaIkkuna>(platform_.Services());
         main_->Kaynnista();
         FastDrawLimit = std::numeric_limits<int32_t>::max();
-        Tiedostot(1) = LueFCS(BenchPath());
+        Tiedostot(1) = LoadBenchFile();
         CurrentFile = 1;
         for (int16_t pair = 1; pair <= kPairs; ++pair) {
             AddWindow("DotPlot", pair);

@@ -104,6 +104,11 @@ class Session {
             std::cerr << log.str();
             return false;
         }
+        platform_.pointer.history.clear();  // what the platform remembers is no leak
+        if (!platform_.dialogs.messages.empty()) {
+            std::cerr << platform_.dialogs.messages.back().text << "\n";
+            return false;
+        }
         const bool sheet =
             KirjoitaNakyma(*main_, NakymaLaji::kSheet, Path("s.tessarin")).message.empty();
         return sheet &&

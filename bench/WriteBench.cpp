@@ -9,7 +9,6 @@
 
 #include "BenchFile.h"
 #include "Beside.h"
-#include "core/FCSReader.h"
 #include "core/FCSWriter.h"
 #include "core/Muuttujat.h"
 
@@ -29,7 +28,7 @@ void Finish(benchmark::State& state) {
 
 void Write(benchmark::State& state) {
     PalautaAlkutila();
-    Tiedostot(1) = LueFCS(BenchPath());
+    Tiedostot(1) = LoadBenchFile();
     for (auto _ : state) {
         const std::string message = KirjoitaFCS(OutPath(), 1);
         if (!message.empty()) {

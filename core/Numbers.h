@@ -18,6 +18,11 @@ double Int(double x);
 /// ones included, give its nearest end; not a number gives 0.
 int32_t ToInt32(double x);
 
+/// 1 for true. What is joined of bits needs no branch, as what is joined of conditions does.
+constexpr unsigned Bit(bool condition) {
+    return condition ? 1U : 0U;
+}
+
 /// Reads a decimal number: blanks around it, a sign, a decimal point and an exponent are allowed,
 /// nothing else is. Nothing for any other text and for one that is no finite number.
 std::optional<double> ParseNumber(std::string_view text);

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "core/Muuttujat.h"
+#include "core/Numbers.h"
 #include "core/Projektio.h"
 #include "core/WideVectors.h"
 #include "plots/PlotArea.h"
@@ -18,16 +19,16 @@ struct MarkerLimits {
     AkseliProjektio::Arvorajat right;
 };
 
-// Sets the members that are sure by their values; False when some are not.
+// Sets the members that are sure by their values, without a branch; False when some are not.
 TESSARIN_WIDE bool SetSureMembers(std::span<const float> values, const MarkerLimits limits,
                                   std::span<uint8_t> members) {
-    uint8_t open = 0;
+    unsigned open = 0;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const float value = values[i];
-        const bool in = (value > limits.left.above) & (value < limits.right.below);
-        const bool out = (value < limits.left.below) | (value > limits.right.above);
-        members[i] = in ? 1 : 0;
-        open = static_cast<uint8_t>(open | (in | out ? 0 : 1));
+        const unsigned in = Bit(value > limits.left.above) & Bit(value < limits.right.below);
+        const unsigned out = Bit(value < limits.left.below) | Bit(value > limits.right.above);
+        members[i] = static_cast<uint8_t>(in);
+        open |= 1U - (in | out);
     }
     return open == 0;
 }

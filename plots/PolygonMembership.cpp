@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/Muuttujat.h"
+#include "core/Numbers.h"
 #include "core/Projektio.h"
 #include "core/WideVectors.h"
 #include "plots/PlotArea.h"
@@ -57,8 +58,8 @@ class Sieve {
         const float low = low_;
         const float high = high_;
         for (std::size_t i = 0; i < xs.size(); ++i) {
-            const bool out = (xs[i] > right) | (ys[i] < low) | (ys[i] > high);
-            stays[i] = out ? 0 : 1;
+            const unsigned out = Bit(xs[i] > right) | Bit(ys[i] < low) | Bit(ys[i] > high);
+            stays[i] = static_cast<uint8_t>(1U - out);
         }
     }
 

@@ -154,6 +154,12 @@ TEST_F(ToolRunTest, LoopsEndByCountConditionOrFile) {
             "output.write:$f~w.3.file.move:next~output.write:-~loop");
     EXPECT_EQ(Split(report, '-').size(), 4U) << report;
     EXPECT_EQ(Run("output.write:@.filesinfolder"), "3|");
+    // Back from the last; the file before the first is none, and that ends the loop.
+    const std::string back =
+        Run("do:1000~$f.set:@.w.3.filename~output.write:$f~w.3.file.move:previous~"
+            "output.write:-~loop");
+    EXPECT_EQ(Split(back, '-').size(), 4U) << back;
+    EXPECT_EQ(back.substr(0, 5), report.substr(report.size() - 8, 5));
     EXPECT_EQ(Run("w.3.file.load:b.fcs~output.write:@.w.3.filename"), "b.fcs|");
 }
 
@@ -259,6 +265,11 @@ TEST_F(ToolRunTest, CommandsChangeTheSession) {
     EXPECT_TRUE(std::filesystem::exists(folder_.Path("picture.bmp")));
     EXPECT_FALSE(Ikkunat(2).Used) << "an unknown kind only empties the slot";
 
+    Run("w.1.axis.y:1~w.1.axis.x:2~w.1.quadrant.visible:true~w.1.quadrant.position.y:2500");
+    EXPECT_EQ(Run("output.write:@.w.1.axis.x~output.write:@.w.1.axis.y~"
+                  "output.write:@.w.1.quadrant.position.y"),
+              "2|1|2500|");
+
     Populaatio& marker = Populaatiot(5);
     marker.Defined = true;
     marker.Type = "Histogram";
@@ -362,6 +373,35 @@ TEST_F(ToolRunTest, QuestionsAreAnsweredBeforehand) {
     EXPECT_EQ(Run("message:a[enter]b~question.printer.set~printpreview.print"), "");
     EXPECT_EQ(log_.str(), "Message: a\rb\n");
     EXPECT_TRUE(ended_);
+}
+
+TEST_F(ToolRunTest, QuestionsOpenDialogs) {
+    DialogToolUser user(platform.dialogs);
+    ToolRun run(main, {user});
+    platform.dialogs.texts = {"twelve", folder_.Path("in.fcs"), folder_.Path("out.txt"),
+                              folder_.Path("start")};
+    platform.dialogs.answers = {true, false};
+    EXPECT_FALSE(
+        run.AjaOhjelma("question.$a.input:How many?\nquestion.$b.file.open:Which?\n"
+                       "question.$c.file.save:Where?\nquestion.$d.folder.open:there\n"
+                       "message:$a\nquestion.go.continue:On?\nquestion.no.continue:Off?\n"
+                       "message:never\n"));
+    const auto& asked = platform.dialogs.questions;
+    ASSERT_EQ(asked.size(), 6U);
+    EXPECT_EQ(asked[0].text, "How many?");
+    EXPECT_EQ(asked[1].text, "(*.*)|*.*");
+    EXPECT_EQ(asked[1].title, "Which?");
+    EXPECT_EQ(asked[2].title, "Where?");
+    EXPECT_EQ(asked[3].text, "*.*|*.*");
+    EXPECT_EQ(asked[3].title, "Select folder");
+    EXPECT_EQ(asked[4].text, "On?");
+    EXPECT_EQ(asked[5].text, "Off?");
+    ASSERT_FALSE(platform.dialogs.messages.empty());
+    EXPECT_EQ(platform.dialogs.messages[0].text, "twelve");
+    EXPECT_EQ(platform.dialogs.messages[0].title, "Message");
+    for (const auto& message : platform.dialogs.messages) {
+        EXPECT_NE(message.text, "never");
+    }
 }
 
 TEST(ToolListTest, InstalledToolsRunFromTheMenu) {

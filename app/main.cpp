@@ -1,9 +1,10 @@
 // The program: command line, choice of platform, registration of window kinds.
-#include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QStandardPaths>
 #include <filesystem>
 #include <iostream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include "mainwindow/WindowList.h"
 #include "platform/qt/Conversions.h"
 #include "platform/qt/PluginLimits.h"
+#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtPlatform.h"
 #include "platform/scripted/ScriptedPlatform.h"
 #include "plots/RegisterPlots.h"
@@ -122,7 +124,10 @@ bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
         return true;
     }
     const Bitmap picture = platform.Main().Snapshot();
-    if (ViewOf(picture).save(ToQt(path))) {
+    const std::string type = std::filesystem::path(path).extension().string();
+    QBuffer bytes;
+    if (ViewOf(picture).save(&bytes, type.empty() ? "PNG" : type.substr(1).c_str()) &&
+        WriteWhole(path, bytes.data().toStdString())) {
         return true;
     }
     std::cerr << "tessarin: the picture could not be written to " << path << std::endl;
@@ -135,7 +140,7 @@ std::string DataFolder() {
     return !folder.isEmpty() && QDir().mkpath(folder) ? folder.toStdString() + "/" : "";
 }
 
-int Run(const CommandLine& line) {
+int Run(const CommandLine& line, QtApplication& application) {
     Nobody nobody;
     QtPlatform::Options options;
     options.headless = line.headless;
@@ -163,6 +168,7 @@ int Run(const CommandLine& line) {
             std::cerr << "warning: " << remark << std::endl;
         };
     }
+    application.onShortage = [&main](const std::string& remark) { main.Huomauta(remark); };
     main.Kaynnista();
     TakeOptions(line);
     if (line.negBumper) {
@@ -176,6 +182,7 @@ int Run(const CommandLine& line) {
     const bool pictured = SaveSnapshot(platform, line.snapshot);
     const bool copied = SaveClipboard(platform, line.clipboard);
     const int status = line.headless ? kDone : platform.Loop().Run();
+    application.onShortage = nullptr;
     const bool told = !nobody.dialogs.messages.empty();
     PalautaAlkutila();  // the windows go before the platform that shows them
     return ran && chosen && sheet && fcs && pictured && copied && !told ? status : kFailed;
@@ -241,6 +248,11 @@ int main(int argc, char** argv) {
         tessarin::PassOverPluginLimits();
     }
     int qtArguments = 1;  // Qt gets none of our words
-    QApplication application(qtArguments, argv);
-    return tessarin::Run(line);
+    tessarin::QtApplication application(qtArguments, argv);
+    try {
+        return tessarin::Run(line, application);
+    } catch (const std::bad_alloc&) {
+        std::cerr << "tessarin: there is not enough memory" << std::endl;
+        return tessarin::kFailed;
+    }
 }

@@ -20,7 +20,7 @@ constexpr int16_t kRows = 10;
 // Ten populations on the channels, each with a third of the events or so.
 const Tiedosto& Prepare(const char* type) {
     PalautaAlkutila();
-    Tiedosto& file = const_cast<Tiedosto&>(BenchFile());
+    auto& file = const_cast<Tiedosto&>(BenchFile());
     for (int16_t slot = 1; slot <= kRows; ++slot) {
         Populaatiot(slot).Defined = true;
         Populaatiot(slot).Type = type;

@@ -310,7 +310,9 @@ Tiedosto LueFCS(const std::string& path, int32_t fingerprint) {
     try {
         return FcsReading(path, fingerprint).Read();
     } catch (const std::bad_alloc&) {
-        return {};
+        Tiedosto refused;
+        refused.OutOfMemory = true;
+        return refused;
     }
 }
 

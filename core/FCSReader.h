@@ -24,9 +24,9 @@ int32_t TiedostonSormenjalki(const std::string& path);
 /// `fingerprint` is that of the file when the caller knows it, else 0.
 /// Success: `Valid` is True; `RawData` and `Data` hold the same values, log channels converted to
 /// linear ones, and compensation is prepared but not applied; `Membership` is all 0.
-/// Failure: `Valid` is False and the rest of the record is empty. A file is refused when its
-/// version is another, a count or range that it needs is missing or no number, or its tables
-/// cannot be had in memory. At most `MaxLoadedEvents` events are read.
+/// Failure: `Valid` is False and the rest of the record is empty but for `OutOfMemory`. A file is
+/// refused when its version is another, a count or range that it needs is missing or no number, or
+/// its tables cannot be had in memory. At most `MaxLoadedEvents` events are read.
 Tiedosto LueFCS(const std::string& path, int32_t fingerprint = 0);
 
 /// `LisaaKanava` means add a channel: one more behind the last of a loaded file, its values and

@@ -239,7 +239,9 @@ TxtTulos LueTXT(const std::string& path) {
         auto text = ReadAll(path);
         return text ? TxtReading(path, std::move(*text)).Read() : TxtTulos{};
     } catch (const std::bad_alloc&) {
-        return {};
+        TxtTulos refused;
+        refused.file.OutOfMemory = true;
+        return refused;
     }
 }
 

@@ -37,7 +37,8 @@ struct FcsOtsikko {
 
 /// `Tiedosto` means file. A record with Fingerprint 0 is a free slot of `Tiedostot`.
 struct Tiedosto {
-    bool Valid = false;  ///< the reader could use the file
+    bool Valid = false;        ///< the reader could use the file
+    bool OutOfMemory = false;  ///< it could not, because the tables cannot be had in memory
     FcsOtsikko Otsikko;
     int16_t FcsMajor = 0;  ///< 3 for "FCS3.0", 2 for "FCS2.0"
     std::string FileName;  ///< without folder

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -37,6 +38,15 @@ int16_t FreeSlot() {
     return 0;
 }
 
+void CopyTable(Clipboard& clipboard, const Tiedosto& file) {
+    clipboard.Clear();
+    try {
+        clipboard.SetText(TaulukkoTekstina(file));
+    } catch (const std::bad_alloc&) {
+        clipboard.Clear();  // the table is loaded all the same
+    }
+}
+
 // Reads a text table. While the user opens it by hand it also goes to the clipboard, and cells
 // that were no numbers are told; a sheet that names it has been through that.
 Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
@@ -45,9 +55,7 @@ Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
         return std::move(read.file);
     }
     if (read.file.Valid) {
-        Clipboard& clipboard = main.Services().clipboard;
-        clipboard.Clear();
-        clipboard.SetText(TaulukkoTekstina(read.file));
+        CopyTable(main.Services().clipboard, read.file);
     }
     if (read.badCells > 0) {
         main.Services().dialogs.Message(std::to_string(read.badCells) + " cells of " +
@@ -64,7 +72,10 @@ bool ReadInto(PaaIkkuna& main, const std::string& path, int32_t fingerprint, int
               LukuTapa way) {
     Tiedosto file = way == LukuTapa::kTxt ? ReadTable(main, path) : LueFCS(path, fingerprint);
     if (!file.Valid) {
-        main.Services().dialogs.Message("The file was not valid flow cytometry file", "Load error");
+        main.Services().dialogs.Message(file.OutOfMemory
+                                            ? "There is not enough memory to load the file"
+                                            : "The file was not valid flow cytometry file",
+                                        "Load error");
         return false;
     }
     Tiedostot(slot) = std::move(file);

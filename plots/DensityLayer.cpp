@@ -19,8 +19,8 @@ struct CellBlock {
     std::array<int32_t, KaytetytTapahtumat::kBlock> y;
 };
 
-// The cell of each place, those beyond the slack in its outermost. Cutting goes towards 0, so one
-// is taken off where that went up.
+// The cell of each place, counted from the outermost of the slack, which also has those beyond.
+// Cutting goes towards 0, so one is taken off where that went up.
 TESSARIN_WIDE void CellsOf(std::span<const double> places, int resolution,
                            std::span<int32_t> cells) {
     const double least = -1.0 * TiheysKuva::kSlack;
@@ -29,7 +29,7 @@ TESSARIN_WIDE void CellsOf(std::span<const double> places, int resolution,
         const double above = places[i] < least ? least : places[i];
         const double place = above > most ? most : above;
         const auto cut = static_cast<int32_t>(place);
-        cells[i] = cut - (static_cast<double>(cut) > place ? 1 : 0);
+        cells[i] = TiheysKuva::kSlack + cut - (static_cast<double>(cut) > place ? 1 : 0);
     }
 }
 
@@ -97,10 +97,12 @@ void TiheysKuva::Piirra(Kuva& surface, const PlotArea& area, const PlotData& dat
         CellsOf({x.data(), count}, resolution, cells.x);
         CellsOf({y.data(), count}, resolution, cells.y);
         for (std::size_t i = 0; i < count; ++i) {
-            const int32_t inCell = ++cells_[Place(cells.x[i], cells.y[i])];
+            const auto column = static_cast<std::size_t>(cells.x[i]);
+            const auto row = static_cast<std::size_t>(cells.y[i]);
+            const int32_t inCell = ++cells_[row * columns.size() + column];
             pixel[i] = shades[static_cast<std::size_t>(std::min(inCell, kLightest))];
-            x[i] = columns[static_cast<std::size_t>(cells.x[i] + kSlack)];
-            y[i] = rows[static_cast<std::size_t>(cells.y[i] + kSlack)];
+            x[i] = columns[column];
+            y[i] = rows[row];
         }
         blocks.x = {x.data(), count};
         blocks.y = {y.data(), count};

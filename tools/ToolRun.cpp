@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <exception>
+#include <new>
 
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
@@ -50,6 +51,10 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     for (RiviNumero = 0; SkriptiKaynnissa && !Closing && RiviNumero < count; ++RiviNumero) {
         try {
             RunLine();
+        } catch (const std::bad_alloc&) {
+            Keskeyta("There is not enough memory for line " + std::to_string(RiviNumero + 1) +
+                         ". Aborting.",
+                     "Fatal error");
         } catch (const ToolFault&) {
             Keskeyta("There is an error in the code on line " + std::to_string(RiviNumero + 1) +
                          ". Aborting.",

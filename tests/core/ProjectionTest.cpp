@@ -138,7 +138,9 @@ TEST_F(ProjectionTest, LimitsOfValuesAreSureAndClose) {
 }
 
 TEST(Logarithm, ColumnsAgreeWithSingleValues) {
-    const std::vector<double> values = {1, 0, -3, 2.5, 1e-30, 3.4e38, NAN, INFINITY, -INFINITY};
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    const std::vector<double> values = {1,         0,         -3, 2.5, 1e-30, 3.4e38, std::nan(""),
+                                        kInfinity, -kInfinity};
     std::vector<double> logs(values.size());
     Log10Arvot(values, logs);
     for (std::size_t i = 0; i < values.size(); ++i) {

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <random>
 #include <sstream>
+#include <utility>
 
 #include "mainwindow/WindowList.h"
 #include "plots/EventText.h"
@@ -65,7 +66,36 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "median"), std::nullopt);
 }
 
-// Sums are taken by blocks and vectors; here they are taken event by event.
+// The statistics of population 2 of file 1, event by event.
+struct PlainSums {
+    long double count = 0;
+    std::array<long double, 4> sums{};  // values of both channels, then their logarithms
+    long double squares = 0;            // distances from the mean of channel 1
+
+    PlainSums(const Tiedosto& file, int16_t gate, int32_t step) {
+        std::vector<int32_t> events;
+        for (int32_t event = 1; event <= file.EventCount; event += step) {
+            const bool shown = gate == 0 || file.Membership(event, gate) == 1;
+            if (shown && file.Membership(event, 2) == 1) {
+                events.push_back(event);
+            }
+        }
+        count = static_cast<long double>(events.size());
+        for (const int32_t event : events) {
+            for (const std::size_t channel : {0U, 1U}) {
+                const long double value = file.Data(event, static_cast<int>(channel) + 1);
+                sums[channel] += value;
+                sums[channel + 2] += value > 0 ? std::log10(value) : 0;
+            }
+        }
+        for (const int32_t event : events) {
+            squares += std::pow(file.Data(event, 1) - sums[0] / count, 2.0L);
+        }
+    }
+    double Mean(std::size_t sum) const { return static_cast<double>(sums[sum] / count); }
+};
+
+// Sums are taken by blocks and vectors.
 TEST_F(StatisticsTest, AgreeWithASumOverEveryEvent) {
     constexpr int32_t kEvents = 5003;
     std::mt19937 random(9);
@@ -81,47 +111,25 @@ TEST_F(StatisticsTest, AgreeWithASumOverEveryEvent) {
         file.Membership(4001, slot) = 0;
         file.Membership(kEvents - 4000, slot) = 0;
     }
-    for (const int16_t gate : std::array<int16_t, 2>{0, 1}) {
-        for (const int32_t step : {1, 7}) {
-            long double count = 0;
-            std::array<long double, 4> sums{};
-            for (int32_t event = 1; event <= kEvents; event += step) {
-                const bool member = file.Membership(event, 2) == 1;
-                if (member && (gate == 0 || file.Membership(event, gate) == 1)) {
-                    ++count;
-                    for (const int16_t channel : std::array<int16_t, 2>{1, 2}) {
-                        const long double value = file.Data(event, channel);
-                        const auto at = static_cast<std::size_t>(channel) - 1;
-                        sums[at] += value;
-                        sums[at + 2] += value > 0 ? std::log10(value) : 0;
-                    }
-                }
-            }
-            Tilastot statistics;
-            LaskeTilastot({file, 1, 2, gate, step}, statistics);
-            const TilastoRivi& row = statistics.Rivit[2];
-            EXPECT_EQ(row.Lukumaara, count);
-            EXPECT_NEAR(row.XKeski, static_cast<double>(sums[0] / count), 1e-9);
-            EXPECT_NEAR(row.YKeski, static_cast<double>(sums[1] / count), 1e-9);
-            EXPECT_NEAR(row.XGeo, std::pow(10.0, static_cast<double>(sums[2] / count)), 1e-9);
-            EXPECT_NEAR(row.YGeo, std::pow(10.0, static_cast<double>(sums[3] / count)), 1e-9);
+    for (const auto& [gate, step] : {std::pair<int16_t, int32_t>(0, 1), {0, 7}, {1, 1}, {1, 7}}) {
+        const PlainSums plain(file, gate, step);
+        Tilastot statistics;
+        LaskeTilastot({file, 1, 2, gate, step}, statistics);
+        const TilastoRivi& row = statistics.Rivit[2];
+        EXPECT_EQ(row.Lukumaara, plain.count);
+        EXPECT_NEAR(row.XKeski, plain.Mean(0), 1e-9);
+        EXPECT_NEAR(row.YKeski, plain.Mean(1), 1e-9);
+        EXPECT_NEAR(row.XGeo, std::pow(10.0, plain.Mean(2)), 1e-9);
+        EXPECT_NEAR(row.YGeo, std::pow(10.0, plain.Mean(3)), 1e-9);
 
-            Populaatiot(2).Type = "Histogram";
-            std::vector<HistoRivi> rows(kPopulationSlots + 1);
-            LaskeHistoTilastot({file, 1, gate, step}, rows);
-            Populaatiot(2).Type = "Polygon";
-            EXPECT_EQ(rows[2].Lukumaara, count);
-            EXPECT_EQ(rows[2].XKeski, row.XKeski);
-            long double squares = 0;
-            for (int32_t event = 1; event <= kEvents; event += step) {
-                const bool member = file.Membership(event, 2) == 1;
-                if (member && (gate == 0 || file.Membership(event, gate) == 1)) {
-                    squares += std::pow(file.Data(event, 1) - sums[0] / count, 2.0L);
-                }
-            }
-            EXPECT_NEAR(rows[2].CV, static_cast<double>(std::sqrt(squares / count)) / row.XKeski,
-                        1e-12);
-        }
+        Populaatiot(2).Type = "Histogram";
+        std::vector<HistoRivi> rows(kPopulationSlots + 1);
+        LaskeHistoTilastot({file, 1, gate, step}, rows);
+        Populaatiot(2).Type = "Polygon";
+        EXPECT_EQ(rows[2].Lukumaara, plain.count);
+        EXPECT_EQ(rows[2].XKeski, row.XKeski);
+        const auto spread = static_cast<double>(std::sqrt(plain.squares / plain.count));
+        EXPECT_NEAR(rows[2].CV, spread / plain.Mean(0), 1e-12);
     }
 }
 

@@ -12,6 +12,7 @@
 #include "core/FCSWriter.h"
 #include "core/Muuttujat.h"
 #include "core/SafeFile.h"
+#include "mainwindow/FileSaving.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 #include "platform/qt/Conversions.h"
@@ -98,13 +99,20 @@ bool SaveSheet(const PaaIkkuna& main, const std::string& path) {
                                                    : "the sheet could not be written to " + path);
 }
 
+std::string SaveFcsOf(const FcsSave& save) {
+    if (!Ikkunat.Holds(save.window) || !Ikkunat(save.window).Used) {
+        return "there is no window " + std::to_string(save.window);
+    }
+    const int16_t slot = Ikkunat(save.window).FileIndex;
+    const std::string obstacle =
+        Tiedostot.Holds(slot) ? TallennuksenEste(Tiedostot(slot), save.path) : "";
+    return obstacle.empty() ? KirjoitaFCS(save.path, slot) : obstacle;
+}
+
 bool SaveFcs(const CommandLine& line) {
     bool all = true;
     for (const FcsSave& save : line.fcs) {
-        const bool there = Ikkunat.Holds(save.window) && Ikkunat(save.window).Used;
-        all = Told(there ? KirjoitaFCS(save.path, Ikkunat(save.window).FileIndex)
-                         : "there is no window " + std::to_string(save.window)) &&
-              all;
+        all = Told(SaveFcsOf(save)) && all;
     }
     return all;
 }

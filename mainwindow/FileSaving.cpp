@@ -1,5 +1,6 @@
 #include "mainwindow/FileSaving.h"
 
+#include <filesystem>
 #include <optional>
 
 #include "core/FCSWriter.h"
@@ -18,6 +19,11 @@ int16_t ActiveFile() {
 }
 
 void Write(PaaIkkuna& main, const std::string& path, int16_t slot, const std::string& title) {
+    const std::string obstacle = TallennuksenEste(Tiedostot(slot), path);
+    if (!obstacle.empty()) {
+        main.Services().dialogs.Message(obstacle, "File protection");
+        return;
+    }
     const std::string failure = KirjoitaFCS(path, slot);
     if (!failure.empty()) {
         main.Services().dialogs.Message(failure, title);
@@ -31,6 +37,16 @@ bool IsCutShort(const Tiedosto& file) {
 }
 
 }  // namespace
+
+std::string TallennuksenEste(const Tiedosto& file, const std::string& path) {
+    std::error_code error;
+    if (!IsCutShort(file) || !std::filesystem::equivalent(file.Path(), path, error)) {
+        return "";
+    }
+    return "Only the first " + std::to_string(file.EventCount) +
+           " events of the file are loaded. To protect the others, please choose "
+           "'Save FCS as...' from File menu.";
+}
 
 void FileSaveFCS(PaaIkkuna& main) {
     const int16_t slot = ActiveFile();
@@ -56,11 +72,6 @@ void FileSaveFCSEiKysymysta(PaaIkkuna& main) {
             "The current FCS file has been created with some other than with Tessarin. To protect "
             "your original data, please choose 'Save FCS as...' from File menu.",
             "File protection");
-    } else if (IsCutShort(file)) {
-        dialogs.Message("Only the first " + std::to_string(file.EventCount) +
-                            " events of the file are loaded. To protect the others, please choose "
-                            "'Save FCS as...' from File menu.",
-                        "File protection");
     } else {
         Write(main, file.Path(), slot, "Save FCS");
     }

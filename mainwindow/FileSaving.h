@@ -1,9 +1,17 @@
 // The commands that write a window's data to disk.
 #pragma once
 
+#include <string>
+
+#include "core/Tiedosto.h"
+
 namespace tessarin {
 
 class PaaIkkuna;
+
+/// Why the file may not be written to that path, for the user; empty when it may. A file of which
+/// only the first events are loaded is not written over itself, as the others would be lost.
+std::string TallennuksenEste(const Tiedosto& file, const std::string& path);
 
 /// "Save FCS as...": asks where and writes the file of the active window there.
 void FileSaveFCS(PaaIkkuna& main);

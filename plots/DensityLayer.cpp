@@ -76,8 +76,9 @@ std::size_t TiheysKuva::Place(int ix, int iy) const {
 
 void TiheysKuva::Piirra(Kuva& surface, const PlotArea& area, const PlotData& data,
                         int16_t resolution) {
-    side_ = resolution + 2 * kSlack + 1;
-    cells_.assign(static_cast<std::size_t>(side_) * static_cast<std::size_t>(side_), 0);
+    const auto side = static_cast<std::size_t>(resolution) + 2 * kSlack + 1;
+    cells_.assign(side * side, 0);
+    side_ = static_cast<int>(side);  // not before there are the cells
     const auto& shades = ShadePixels();
     const auto columns = FirstPixels(area.Left(), area.XLength(), resolution);
     const auto rows = FirstPixels(area.Top(), area.YLength(), resolution);

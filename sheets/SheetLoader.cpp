@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <map>
+#include <new>
 #include <set>
 #include <utility>
 
@@ -243,7 +244,12 @@ bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
         const BusyPointer busy;
         const LoadingFlag loading;
         EmptySession();
-        loader.Load();
+        try {
+            loader.Load();
+        } catch (const std::bad_alloc&) {
+            main.Services().dialogs.Message("There is not enough memory for all of the sheet",
+                                            "Load error");
+        }
         for (int16_t id = 1; id <= MaxWindows; ++id) {
             if (const auto window = IkkunaPaikassa(id)) {
                 window->LatauksenJalkeen();

@@ -39,9 +39,9 @@ int NearestPixel(double x) {
 }
 
 void Layer::Resize(int width, int height, uint32_t pixel) {
-    width_ = width;
-    height_ = height;
     pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), pixel);
+    width_ = width;  // not before there are the pixels
+    height_ = height;
 }
 
 void Layer::Fill(uint32_t pixel) {

@@ -275,6 +275,8 @@ TEST_F(FileLoadingTest, SavesFcsAndProtectsTheOriginals) {
     MaxLoadedEvents = 3;
     Tiedostot(Ikkunat(1).FileIndex) = LueFCS(own);
     EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "File protection") << "two events not loaded";
+    EXPECT_EQ(save("FileSaveFCS", folder_.Path("./own.fcs")), "File protection");
+    EXPECT_EQ(save("FileSaveFCS", folder_.Path("three.fcs")), "");
     EXPECT_EQ(std::filesystem::file_size(own), 3000U + 5 * 2 * 4);
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 #include "core/FCSReader.h"
 #include "core/Text.h"
@@ -106,6 +107,39 @@ TEST_F(InstalledToolsTest, TablesOfAFolder) {
     ASSERT_TRUE(Run("Quadrants of a folder"));
     EXPECT_EQ(Report("quadrants.txt"),
               (std::vector<Row>{{"a.fcs", "0", "40", "60", "0"}, {"b.fcs", "0", "40", "60", "0"}}));
+}
+
+// A name is a number to a tool when it reads as one, and a folder may be the wrong one.
+TEST_F(InstalledToolsTest, NamesStayApartAndAnEmptyFolderIsLeftAlone) {
+    std::filesystem::create_directory(folder_.Path("wells"));
+    for (const char* name : {"1.1", "1.10", "01.1", "1E5"}) {
+        std::filesystem::copy_file(folder_.Path("a.fcs"), folder_.Path("wells/") + name);
+    }
+    answers_["folder"] = folder_.Path("wells/any");
+    ASSERT_TRUE(Run("Statistics of a folder"));
+    std::set<std::string> names;
+    for (const Row& row : Report("wells/statistics.txt")) {
+        names.insert(row[0]);
+    }
+    EXPECT_EQ(names.size(), 4U);
+    EXPECT_TRUE(names.contains("1.1"));
+    std::filesystem::remove(folder_.Path("wells/statistics.txt"));
+    ASSERT_TRUE(Run("Pictures of all windows"));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Path("wells")), {}), 8);
+
+    std::filesystem::create_directory(folder_.Path("empty"));
+    answers_["folder"] = folder_.Path("empty/any");
+    answers_["window"] = "1";
+    answers_["marker"] = answers_["region"] = "5";
+    for (const char* tool :
+         {"Statistics of a folder", "Statistics of every population", "Quadrants of a folder",
+          "Text tables of a folder", "Pictures of all windows", "Marker to the highest peak",
+          "Region follows its cloud"}) {
+        log_.str("");
+        EXPECT_TRUE(Run(tool)) << tool;
+        EXPECT_EQ(log_.str(), "Message: There is no data file in that folder.\n") << tool;
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(folder_.Path("empty")));
 }
 
 TEST_F(InstalledToolsTest, MarkersAndRegionsFollowTheirEvents) {

@@ -76,7 +76,7 @@ std::size_t TiheysKuva::Place(int ix, int iy) const {
 
 void TiheysKuva::Piirra(Kuva& surface, const PlotArea& area, const PlotData& data,
                         int16_t resolution) {
-    const auto side = static_cast<std::size_t>(resolution) + 2 * kSlack + 1;
+    const auto side = static_cast<std::size_t>(resolution) + std::size_t{2 * kSlack + 1};
     cells_.assign(side * side, 0);
     side_ = static_cast<int>(side);  // not before there are the cells
     const auto& shades = ShadePixels();

@@ -144,14 +144,4 @@ void MarkkeriEle::Unohda() {
     RegionEle::Unohda();
 }
 
-void MarkkeriEle::KokoMuuttui(const PlotArea& before) {
-    if (!MarkkeriVeto) {
-        return;
-    }
-    const PlotArea now = Area();
-    const MarkerPlace place = UnderWork();
-    const PixelPoint first = now.ToPixel(before.ToGrid({place.x1, place.y}));
-    SetUnderWork({first.x, now.ToPixel(before.ToGrid({place.x2, place.y})).x, first.y});
-}
-
 }  // namespace tessarin

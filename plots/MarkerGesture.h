@@ -20,7 +20,6 @@ class MarkkeriEle : public RegionEle {
     bool OnkoPiirto() const override { return MarkkeriVeto; }
     void Keskeyta() override;
     void Unohda() override;
-    void KokoMuuttui(const PlotArea& before) override;
 
   private:
     int16_t FindCorner(PixelPoint mouse, int16_t& corner) override;

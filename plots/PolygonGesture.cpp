@@ -151,14 +151,4 @@ void MonikulmioEle::Unohda() {
     }
 }
 
-void MonikulmioEle::KokoMuuttui(const PlotArea& before) {
-    if (!OnkoPiirto()) {
-        return;
-    }
-    const PlotArea now = Area();
-    for (int16_t number = 1; number <= KulmienMaara; ++number) {
-        AsetaKulmapiste(number, now.ToPixel(before.ToGrid(Kulmapiste(number))));
-    }
-}
-
 }  // namespace tessarin

@@ -18,7 +18,6 @@ class MonikulmioEle : public RegionEle {
     void Piirra(MouseButton button, PixelPoint mouse) override;
     bool OnkoPiirto() const override;
     void Unohda() override;
-    void KokoMuuttui(const PlotArea& before) override;
 
   private:
     int16_t FindCorner(PixelPoint mouse, int16_t& corner) override;

@@ -162,4 +162,14 @@ void RegionEle::Unohda() {
     }
 }
 
+void RegionEle::KokoMuuttui(const PlotArea& before) {
+    if (!OnkoPaalla()) {
+        return;
+    }
+    const PlotArea now = Area();
+    for (int16_t number = 1; number <= KulmienMaara; ++number) {
+        AsetaKulmapiste(number, now.ToPixel(before.ToGrid(Kulmapiste(number))));
+    }
+}
+
 }  // namespace tessarin

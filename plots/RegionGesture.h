@@ -54,8 +54,8 @@ class RegionEle {
     virtual void Keskeyta();
     /// The window goes: whatever gesture runs in it is forgotten.
     virtual void Unohda();
-    /// The window has another size: what is being drawn keeps its place on the grid.
-    virtual void KokoMuuttui(const PlotArea& before) = 0;
+    /// The window has another size: what is drawn, edited or moved keeps its place on the grid.
+    void KokoMuuttui(const PlotArea& before);
 
     /// Whether drawing goes to the overlay now.
     bool OnkoPaalla() const { return host_.OnkoEle() || OnkoPiirto(); }

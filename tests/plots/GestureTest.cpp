@@ -161,6 +161,43 @@ TEST_F(GestureTest, MovesCornersPolygonsAndNames) {
     ExpectIdle();
 }
 
+TEST_F(GestureTest, AnotherSizeLeavesWhatTheMouseHoldsInItsPlace) {
+    // Another 200 pixels each way: a pixel of the plot area is 25 grid units.
+    const auto grow = [this] {
+        form_.SetOuterSize(TwipsFromPixels(436 + ScriptedForm::kFrameWidth),
+                           TwipsFromPixels(436 + ScriptedForm::kFrameHeight));
+    };
+    DrawSquare();
+    form_.Press(80, 90);
+    grow();
+    form_.Move(80, 90);
+    form_.Release(80, 90);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2500);
+    EXPECT_FLOAT_EQ(Populaatiot(1).Y[3], 7500);
+    EXPECT_EQ(Members(1), (std::vector<int>{1, 1, 1, 0}));
+
+    form_.Press(318, 318);
+    EXPECT_EQ(MuokattavaKulma, 3);
+    form_.SetOuterSize(TwipsFromPixels(236 + ScriptedForm::kFrameWidth),
+                       TwipsFromPixels(236 + ScriptedForm::kFrameHeight));
+    form_.Move(118, 118);
+    const auto& strokes = form_.surface.strokes;
+    EXPECT_TRUE(std::any_of(strokes.begin(), strokes.end(),
+                            [](const auto& s) { return s.x1 == 68 && s.y1 == 68 && s.x2 == 168; }));
+    form_.Release(118, 118);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2500);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[3], 5000);
+
+    Arm();  // and yes, in place of the old one
+    Click(68, 68);
+    Click(168, 68);
+    grow();
+    form_.Press(118, 318, MouseButton::kRight);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2500);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[2], 7500);
+    ExpectIdle();
+}
+
 TEST_F(GestureTest, AMouseTakenAwayLeavesNoHalfState) {
     DrawSquare();
     const Populaatio before = Populaatiot(1);

@@ -257,6 +257,11 @@ TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
 
     form_.Press(118, 78);
     EXPECT_EQ(MuokattavaKulma, 1);
+    form_.SetOuterSize(TwipsFromPixels(436 + ScriptedForm::kFrameWidth), TwipsFromPixels(300));
+    form_.Move(218, 78);
+    EXPECT_EQ(KulmaX[2], 18 + 0.7F * 400) << "the other end stays where it was on the axis";
+    form_.SetOuterSize(TwipsFromPixels(236 + ScriptedForm::kFrameWidth),
+                       TwipsFromPixels(236 + ScriptedForm::kFrameHeight));
     form_.Move(20, 78);
     form_.Lose();
     EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000) << "broken off";

@@ -1,6 +1,7 @@
 #include "tools/ToolValue.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/Numbers.h"
 
@@ -13,9 +14,9 @@ bool IsDigit(char c) {
 
 // How many characters from `at` on are digits.
 std::size_t Digits(std::string_view text, std::size_t at) {
-    const auto end =
-        std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(at), text.end(), IsDigit);
-    return static_cast<std::size_t>(end - text.begin()) - at;
+    const std::string_view rest = text.substr(at);
+    return static_cast<std::size_t>(
+        std::distance(rest.begin(), std::find_if_not(rest.begin(), rest.end(), IsDigit)));
 }
 
 // The length of the number that the text begins with, without blanks.

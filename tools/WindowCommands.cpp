@@ -1,4 +1,5 @@
 // Commands on a window.
+#include <algorithm>
 #include <vector>
 
 #include "core/Bitmap.h"
@@ -42,12 +43,8 @@ void SaveImage(const Call& call) {
 }
 
 bool HasFreeFile() {
-    for (const Tiedosto& file : Tiedostot) {
-        if (file.Fingerprint == 0) {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(Tiedostot.begin(), Tiedostot.end(),
+                       [](const Tiedosto& file) { return file.Fingerprint == 0; });
 }
 
 void LoadFile(const Call& call) {

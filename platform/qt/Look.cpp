@@ -58,7 +58,7 @@ QIcon ProgramIcon() {
     painter.drawEllipse(QPoint(27, 37), 8, 8);
     painter.setBrush(QColor(80, 160, 240));
     painter.drawEllipse(QPoint(44, 21), 11, 11);
-    return QIcon(picture);
+    return {picture};
 }
 
 QFont PanelFont() {

@@ -23,15 +23,26 @@ void QtGridForm::SetOuterSize(Twips width, Twips height) {
     if (!grid_ || !frame_.HasOwnSize()) {
         return;
     }
+    const QSize asked(PixelsFromTwips(width), PixelsFromTwips(height));
+    const QSize needed = grid_->Cells().Size();
+    if (asked == asked_ && needed == needed_ && OuterSize() == fitted_) {
+        return;
+    }
     frame_.SetOuterSize(width, height);
     // Title and edges are not equally thick everywhere, and the scroll bars would hide a whole row
     // for the sake of a few pixels.
-    const QSize missing = (grid_->Cells().Size() - frame_.ClientSize()).expandedTo({0, 0});
+    const QSize missing = (needed - frame_.ClientSize()).expandedTo({0, 0});
     if (missing.width() < kGridRowPixels && missing.height() < kGridRowPixels) {
-        frame_.SetOuterSize(
-            TwipsFromPixels(PixelsFromTwips(frame_.OuterWidth()) + missing.width()),
-            TwipsFromPixels(PixelsFromTwips(frame_.OuterHeight()) + missing.height()));
+        const QSize fitting = OuterSize() + missing;
+        frame_.SetOuterSize(TwipsFromPixels(fitting.width()), TwipsFromPixels(fitting.height()));
     }
+    asked_ = asked;
+    needed_ = needed;
+    fitted_ = OuterSize();
+}
+
+QSize QtGridForm::OuterSize() const {
+    return {PixelsFromTwips(frame_.OuterWidth()), PixelsFromTwips(frame_.OuterHeight())};
 }
 
 Bitmap QtGridForm::Picture() const {

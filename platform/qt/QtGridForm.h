@@ -33,9 +33,15 @@ class QtGridForm : public GridForm, private ChildEvents {
     void KeyUp(int /*keyCode*/) override {}
     void Closing() override { events_.Form_QueryUnload(); }
 
+    QSize OuterSize() const;
+
     GridFormEvents& events_;
     QPointer<GridWidget> grid_;  // the frame's
     ChildFrame frame_;
+    // What the last change of the size was for, and what came of it, in pixels.
+    QSize asked_;
+    QSize needed_;
+    QSize fitted_;
 };
 
 }  // namespace tessarin

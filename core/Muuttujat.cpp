@@ -21,6 +21,7 @@ int16_t PopupIkkuna = 0;
 int16_t ClipSource = 0;
 bool Loading = false;
 bool Closing = false;
+bool LykkaaPiirto = false;
 bool ShiftPainettu = false;
 bool PanelCollapsed = true;
 bool PanelFrozen = false;
@@ -67,6 +68,7 @@ void PalautaAlkutila() {
     ClipSource = 0;
     Loading = false;
     Closing = false;
+    LykkaaPiirto = false;
     ShiftPainettu = false;
     PanelCollapsed = true;
     PanelFrozen = false;

@@ -55,6 +55,7 @@ extern int16_t PopupIkkuna;     // id of the window whose pop-up menu is open
 extern int16_t ClipSource;      // id of the window copied to the clipboard last
 extern bool Loading;            // a sheet is being loaded
 extern bool Closing;            // the exit routine runs
+extern bool LykkaaPiirto;       // redraws put their pictures off, see AnalysisWindow::PiirraLykatty
 extern bool ShiftPainettu;      // the Shift key is held over an analysis window
 extern bool PanelCollapsed;     // state of the side panel
 extern bool PanelFrozen;        // "Freeze the panel" is checked

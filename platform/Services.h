@@ -110,6 +110,7 @@ struct Platform {
     Locks& locks;
     std::string programFolder;  ///< where the program's own files lie, ending in "/"
     std::string dataFolder;     ///< the user's folder for its data, likewise; empty for none
+    bool unseen = false;        ///< nobody sees a picture but whoever asks for it
 };
 
 }  // namespace tessarin

@@ -39,7 +39,6 @@ void Histogram::ReplaceMissingChannels(const Tiedosto& file) {
 
 void Histogram::DrawPlot(const Tiedosto& file, const PlotArea& area) {
     PiirraXOtsikko(Surface(), area, file.Channels(KanavaX).Name);
-    CountEvents(file);
     PiirraPylvaat(Surface(), area, Histo, {Korkein, Tayttovari, Reunus});
     DrawAxes(file, area);
     DrawMarkers(area);

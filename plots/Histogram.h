@@ -37,8 +37,8 @@ class Histogram : public PlotWindow {
 
   private:
     void ReplaceMissingChannels(const Tiedosto& file) override;
+    void CountEvents(const Tiedosto& file) override;
     void DrawPlot(const Tiedosto& file, const PlotArea& area) override;
-    void CountEvents(const Tiedosto& file);
     void DrawAxes(const Tiedosto& file, const PlotArea& area);
     void DrawMarkers(const PlotArea& area);
     void DrawTopOfScale(const PlotArea& area);

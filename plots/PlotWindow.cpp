@@ -1,5 +1,7 @@
 #include "plots/PlotWindow.h"
 
+#include <utility>
+
 #include "core/BusyPointer.h"
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/PaaIkkuna.h"
@@ -84,16 +86,31 @@ void PlotWindow::Piirra() {
         return;
     }
     const BusyPointer busy;
-    // A redraw is of the picture below whatever a gesture draws above it.
-    Surface().SetAutoRedraw(true);
-    const PlotArea area(Surface());
     ReplaceMissingChannels(*file);
     Otsikko = Title(file->FileName);
     PaivitaKehysOtsikko(ID);
-    ClearSurface(*file, area);
     DropUndefinedGate();
-    DrawPlot(*file, area);
+    CountEvents(*file);
+    lykatty_ = LykkaaPiirto;
+    if (!lykatty_) {
+        DrawPicture(*file);
+    }
     FinishDrawing();
+}
+
+void PlotWindow::PiirraLykatty() {
+    const Tiedosto* file = File();
+    if (std::exchange(lykatty_, false) && file != nullptr) {
+        DrawPicture(*file);
+    }
+}
+
+void PlotWindow::DrawPicture(const Tiedosto& file) {
+    // A redraw is of the picture below whatever a gesture draws above it.
+    Surface().SetAutoRedraw(true);
+    const PlotArea area(Surface());
+    ClearSurface(file, area);
+    DrawPlot(file, area);
 }
 
 void PlotWindow::ClearSurface(const Tiedosto& file, const PlotArea& area) {

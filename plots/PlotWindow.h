@@ -31,6 +31,7 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     // The window contract.
     void Alusta(int16_t id) override;
     void Piirra() override;
+    void PiirraLykatty() override;
     void LatauksenJalkeen() override;
     int16_t AnnaID() const override { return ID; }
     void MenuValintaReaktio(int item) override;
@@ -103,6 +104,8 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
     // What each kind does its own way.
     /// Replaces channels left over from a file with more of them.
     virtual void ReplaceMissingChannels(const Tiedosto& file) = 0;
+    /// What tools and other windows may ask of the picture, before it is drawn.
+    virtual void CountEvents(const Tiedosto& /*file*/) {}
     /// All that stands on the cleared surface.
     virtual void DrawPlot(const Tiedosto& file, const PlotArea& area) = 0;
     virtual RegionEle& Ele() = 0;
@@ -181,6 +184,7 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
   private:
     void AsetaKoko();
     std::string Title(std::string_view file) const;
+    void DrawPicture(const Tiedosto& file);
     void ClearSurface(const Tiedosto& file, const PlotArea& area);
     void DropUndefinedGate();
     void FinishDrawing();
@@ -196,8 +200,9 @@ class PlotWindow : public AnalysisWindow, protected RegionHost, protected Statis
 
     PlotKind kind_;
     std::unique_ptr<Form> form_;
-    bool ready_ = false;  // set up; a change of size before that is not the user's
-    std::string Otsikko;  // title
+    bool ready_ = false;    // set up; a change of size before that is not the user's
+    bool lykatty_ = false;  // the picture of the last redraw was put off
+    std::string Otsikko;    // title
     bool Previewissa = false;
     bool StatPreviewissa = false;
 };

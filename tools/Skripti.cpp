@@ -26,6 +26,7 @@ bool Skripti::AjaValikosta(const std::string& text, ToolUser& user) {
 bool Skripti::AjaOhjelma(const std::string& text, bool NaytaMuuttujat, ToolUser& user) {
     form_->SetExecuteCaption("Stop");
     ToolSurroundings surroundings{user};
+    surroundings.unseen = main_.Services().unseen;
     if (NaytaMuuttujat) {
         surroundings.showVariables = [this](const std::string& list) { form_->SetVariables(list); };
     }

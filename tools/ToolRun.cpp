@@ -9,6 +9,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
 #include "tools/ToolCommands.h"
 #include "tools/ToolQueries.h"
 
@@ -37,6 +38,36 @@ std::vector<std::string> LinesOf(const std::string& text) {
     lines.pop_back();
     return lines;
 }
+
+bool IsFileStep(const ToolLine& line) {
+    static const ToolPattern step("w|window.N.file");
+    return step.Fits(line.words) == ToolPattern::Fit::kYes;
+}
+
+// Variables, conditions, loops and the report neither look at a picture nor change what it shows.
+bool LeavesPictures(const ToolLine& line) {
+    constexpr std::array<std::string_view, 5> kOthers = {"output", "do", "loop", "if", "endif"};
+    const std::string& first = line.words[0];
+    return first.find('$') != std::string::npos ||
+           std::find(kOthers.begin(), kOthers.end(), first) != kOthers.end();
+}
+
+void DrawPutOff() {
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        if (const auto window = IkkunaPaikassa(id)) {
+            window->PiirraLykatty();
+        }
+    }
+}
+
+// Puts pictures off while it lives, or not.
+class PuttingOff {
+  public:
+    explicit PuttingOff(bool on) { LykkaaPiirto = on; }
+    ~PuttingOff() { LykkaaPiirto = false; }
+    PuttingOff(const PuttingOff&) = delete;
+    PuttingOff& operator=(const PuttingOff&) = delete;
+};
 
 }  // namespace
 
@@ -67,6 +98,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     }
     report.close();
     SkriptiKaynnissa = false;
+    DrawPutOff();
     return !aborted_;
 }
 
@@ -109,6 +141,22 @@ void ToolRun::Execute(const std::string& whole) {
             line.value = std::move(*result);
         }
     }
+    if (surroundings_.unseen) {
+        RunUnseen(line);
+    } else {
+        SuoritaKomento(*this, line);
+    }
+}
+
+// Most pictures of a run through a folder give way to the next file's before anybody asks for them.
+// A step to a file puts its picture off, and every line that could look at a picture, or change
+// what it shows, has it drawn first.
+void ToolRun::RunUnseen(const ToolLine& line) {
+    const bool step = IsFileStep(line);
+    if (!step && !LeavesPictures(line)) {
+        DrawPutOff();
+    }
+    const PuttingOff pictures(step);
     SuoritaKomento(*this, line);
 }
 

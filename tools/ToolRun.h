@@ -38,6 +38,9 @@ struct ToolSurroundings {
     std::function<void(const std::string& list)> showVariables{};
     /// Shows the tool window in full.
     std::function<void()> showWindow{};
+    /// Nobody sees a picture but whoever asks for it: those that the tool soon replaces are left
+    /// out.
+    bool unseen = false;
 };
 
 class ToolRun {
@@ -82,6 +85,7 @@ class ToolRun {
     void RunLine();
     bool IsPassedOver(const std::string& line);
     void Execute(const std::string& whole);
+    void RunUnseen(const ToolLine& line);
 
     PaaIkkuna& main_;
     ToolSurroundings surroundings_;

@@ -35,6 +35,7 @@ QtPlatform::QtPlatform(const Options& options)
                 *printer_,
                 locks_,
                 options.programFolder,
-                options.dataFolder} {}
+                options.dataFolder,
+                options.unseen} {}
 
 }  // namespace tessarin

@@ -31,6 +31,7 @@ class ToolRunTest : public ProgramTest {
         platform.dialogs.messages.clear();
         ToolSurroundings surroundings{user};
         surroundings.showVariables = [this](const std::string& list) { shown_ = list; };
+        surroundings.unseen = unseen_;
         ToolRun run(main, surroundings);
         const std::string head = "folder.set:" + folder_.Path() + "~output.set:report~";
         ended_ = run.AjaOhjelma(KorvaaTeksti(head + lines + "~", "~", "\r\n"));
@@ -62,6 +63,7 @@ class ToolRunTest : public ProgramTest {
     std::ostringstream log_;
     std::string shown_;
     bool ended_ = false;
+    bool unseen_ = false;
 };
 
 TEST_F(ToolRunTest, ValuesAndVariables) {
@@ -244,6 +246,71 @@ TEST_F(ToolRunTest, QueriesReadTheSession) {
           "@.w.1.modeller.height.5", "@.w.1.quadrant.ul", "@"}) {
         EXPECT_EQ(Fails(std::string("$x.set:") + bad), Fault(1)) << bad;
     }
+}
+
+// A run that nobody watches leaves pictures out, and nobody can tell.
+TEST_F(ToolRunTest, PicturesThatNobodySeesAreThereWhenAskedFor) {
+    for (const uint32_t value : {100U, 300U, 500U}) {
+        FcsBuilder file("I", 16, "1,2,3,4", 2, 3);
+        for (const uint32_t step : {0U, 100U, 100U}) {
+            file.AddInteger(value + step).AddInteger(value + 2 * step);
+        }
+        folder_.Write(std::to_string(value) + ".fcs", file.Bytes());
+    }
+    const auto startAnew = [] {
+        VapautaIkkuna(1);
+        VapautaIkkuna(2);
+        OletusKoko = {};
+        FastDrawLimit = 50000;
+        Populaatio& region = Populaatiot(1);
+        region.Defined = true;
+        region.Type = "Polygon";
+        region.AxisX = 1;
+        region.AxisY = 2;
+        region.Red = 200;
+        region.Corners = 4;
+        region.X = region.Y = {};
+        region.X[2] = region.X[3] = region.Y[3] = region.Y[4] = 6000;
+    };
+    const auto surface = [](int16_t window) -> RecordingKuva& {
+        return dynamic_cast<RecordingKuva&>(IkkunaPaikassa(window)->Lomake().Surface());
+    };
+    // What can be seen after the lines: the report, a saved picture, and both windows.
+    const auto seen = [&](const std::string& lines) {
+        startAnew();
+        std::filesystem::remove(folder_.Path("saved.bmp"));
+        const std::string report =
+            Run("create.dotplot:1~create.histogram:2~w.1.file.load:100.fcs~w.2.file.load:100.fcs~"
+                "w.1.statistics.visible:true~" +
+                lines + "~output.write:@.w.1.filename");
+        EXPECT_TRUE(ended_) << lines;
+        std::ifstream saved(folder_.Path("saved.bmp"), std::ios::binary);
+        return std::tuple(report, std::string{std::istreambuf_iterator<char>(saved), {}},
+                          surface(1).Image().pixels, surface(2).Image().pixels);
+    };
+    const std::string step = "w.1.file.load:300.fcs~w.2.file.load:500.fcs~";
+    for (const char* lines :
+         {"", "w.1.file.load:500.fcs~w.2.file.load:300.fcs", "w.1.saveimage:saved.bmp",
+          "output.write:@.w.1.population.1.xmean~output.write:@.w.2.histogram.height.4000",
+          "autoupdate:off~p.1.color.red:20",
+          "autoupdate:off~p.1.color.red:20~w.2.file.load:300.fcs", "f.1.parameter.1.log:true",
+          "f.2.cell.1.1.value:900", "w.1.axis.x:2", "fastdraw.limit:1",
+          "w.1.size.x:3000~w.1.file.load:100.fcs~w.1.size.x:4000", "create.histogram:1",
+          "message:seen", "w.1.file.load:nothing.fcs", "update.window:all",
+          "autoupdate:off~p.1.position.1.x:9000~update.population:all"}) {
+        const std::string all = step + lines;
+        unseen_ = false;
+        const auto watched = seen(all);
+        unseen_ = true;
+        EXPECT_TRUE(seen(all) == watched) << all;
+    }
+    const std::string through = "w.1.file.move:first~do:9~w.1.file.move:next~loop";
+    unseen_ = false;
+    seen(through);
+    const int watched = surface(1).redraws;
+    unseen_ = true;
+    seen(through);
+    EXPECT_EQ(surface(1).redraws, watched - 2) << "of three steps only the last";
 }
 
 TEST_F(ToolRunTest, CommandsChangeTheSession) {

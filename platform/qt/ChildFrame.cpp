@@ -1,6 +1,7 @@
 #include "platform/qt/ChildFrame.h"
 
 #include <QLayout>
+#include <QMdiArea>
 #include <algorithm>
 
 #include "platform/qt/Conversions.h"
@@ -83,6 +84,15 @@ void ChildFrame::SetPlace(Twips left, Twips top) {
     if (window_) {
         window_->move(PlacePixels(left), PlacePixels(top));
     }
+}
+
+void ChildFrame::MoveIn() {
+    if (!window_ || window_->mdiArea() == nullptr) {
+        return;
+    }
+    const QSize room = window_->mdiArea()->viewport()->size() - window_->size();
+    window_->move(std::max(0, std::min(window_->x(), room.width())),
+                  std::max(0, std::min(window_->y(), room.height())));
 }
 
 void ChildFrame::Show() {

@@ -33,6 +33,8 @@ class ChildFrame {
     Twips Left() const;
     Twips Top() const;
     void SetPlace(Twips left, Twips top);
+    /// Moves it into the area, as far as it has room there; its title bar in any case.
+    void MoveIn();
 
     void Show();
     /// Shows it while another child stays the active one.

@@ -36,9 +36,17 @@ void QtGridForm::SetOuterSize(Twips width, Twips height) {
         const QSize fitting = OuterSize() + missing;
         frame_.SetOuterSize(TwipsFromPixels(fitting.width()), TwipsFromPixels(fitting.height()));
     }
+    if (!asked_.isValid() && !placed_) {
+        frame_.MoveIn();
+    }
     asked_ = asked;
     needed_ = needed;
     fitted_ = OuterSize();
+}
+
+void QtGridForm::SetPlace(Twips left, Twips top) {
+    placed_ = true;
+    frame_.SetPlace(left, top);
 }
 
 QSize QtGridForm::OuterSize() const {

@@ -19,11 +19,12 @@ class QtGridForm : public GridForm, private ChildEvents {
     void SetCaption(std::string_view caption) override { frame_.SetCaption(caption); }
     void SetTable(const GridTable& table) override;
     /// While the user has it minimised or maximised, it stays so. A table that would only just not
-    /// fit gets the few pixels that it lacks.
+    /// fit gets the few pixels that it lacks. A window that nobody has placed moves into the area
+    /// with its first size.
     void SetOuterSize(Twips width, Twips height) override;
     Twips Left() const override { return frame_.Left(); }
     Twips Top() const override { return frame_.Top(); }
-    void SetPlace(Twips left, Twips top) override { frame_.SetPlace(left, top); }
+    void SetPlace(Twips left, Twips top) override;
     void Show() override { frame_.Show(); }
     Bitmap Picture() const override;
 
@@ -42,6 +43,7 @@ class QtGridForm : public GridForm, private ChildEvents {
     QSize asked_;
     QSize needed_;
     QSize fitted_;
+    bool placed_ = false;  // somebody has said where it is to stand
 };
 
 }  // namespace tessarin

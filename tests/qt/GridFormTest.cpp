@@ -169,6 +169,29 @@ TEST_F(GridFormTest, MovesAreToldWithAndWithoutAButtonAndNotToTheBackground) {
     EXPECT_EQ(main_.Take(), Log{});
 }
 
+TEST_F(GridFormTest, ANewTableStandsWithinTheAreaUnlessItIsPlacedOutside) {
+    const auto open = [this](int place, bool placed) {
+        auto grid = std::make_unique<RecordingGrid>("G", log_);
+        grid->form = Main().MakeGridChild(*grid);
+        grid->form->Show();
+        const QSize area = Shown(place).mdiArea()->viewport()->size();
+        Shown(place).move(area.width() - 50, area.height() - 50);
+        if (placed) {
+            grid->form->SetPlace(grid->form->Left(), grid->form->Top());
+        }
+        grid->form->SetOuterSize(TwipsFromPixels(300), TwipsFromPixels(200));
+        return grid;
+    };
+    const auto grid = open(0, false);
+    const QSize area = Shown(0).mdiArea()->viewport()->size();
+    EXPECT_EQ(Shown(0).geometry().bottomRight(), QPoint(area.width() - 1, area.height() - 1));
+    Shown(0).move(area.width() - 50, 10);
+    grid->form->SetOuterSize(TwipsFromPixels(280), TwipsFromPixels(200));
+    EXPECT_EQ(Shown(0).x(), area.width() - 50) << "where the user put it";
+    const auto placed = open(1, true);
+    EXPECT_EQ(Shown(1).x(), area.width() - 50);
+}
+
 TEST_F(GridFormTest, PlacesAreThoseOfTheFrame) {
     RecordingGrid grid("G", log_);
     grid.form = Main().MakeGridChild(grid);

@@ -103,11 +103,6 @@ int16_t FindOrRead(PaaIkkuna& main, const std::string& path, LukuTapa way) {
     return slot;
 }
 
-void TellOddities(PaaIkkuna& main, int16_t slot) {
-    const Tiedosto& file = Tiedostot(slot);
-    main.Huomauta(file.Oddities.empty() ? "" : file.FileName + ": " + file.Oddities);
-}
-
 bool GiveToWindow(int16_t window, int16_t slot) {
     const auto target = IkkunaPaikassa(window);
     if (target == nullptr) {
@@ -166,7 +161,7 @@ bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t
     if (taken == 0) {
         return false;
     }
-    TellOddities(main, taken);
+    main.HuomautaTiedostosta(taken);
     const bool shown = window != 0 && GiveToWindow(window, taken);
     CurrentFile = taken;
     return shown;
@@ -177,7 +172,7 @@ void AvaaUuteenIkkunaan(PaaIkkuna& main, const std::string& path, LukuTapa way) 
     const int16_t id = VapaaIkkunaPaikka();
     const int16_t slot = id == 0 ? int16_t{0} : FindOrRead(main, path, way);
     if (slot != 0) {
-        TellOddities(main, slot);
+        main.HuomautaTiedostosta(slot);
         CurrentFile = slot;  // which the new window shows by itself
         LuoIkkunaPaikkaan(main, "DotPlot", id);
     }

@@ -14,6 +14,15 @@
 #include "mainwindow/WindowRegistry.h"
 
 namespace tessarin {
+namespace {
+
+// Empty when the slot is none, or nothing is odd about its file.
+std::string OddityOf(int16_t slot) {
+    const bool odd = Tiedostot.Holds(slot) && !Tiedostot(slot).Oddities.empty();
+    return odd ? Tiedostot(slot).FileName + ": " + Tiedostot(slot).Oddities : "";
+}
+
+}  // namespace
 
 const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
     static const std::map<std::string_view, Handler> handlers = {
@@ -107,7 +116,21 @@ void PaaIkkuna::OpenView() {
     }
 }
 
+void PaaIkkuna::HuomautaTiedostosta(int16_t slot) {
+    Huomauta(OddityOf(slot));
+    remarkIsOfFile_ = true;
+}
+
+void PaaIkkuna::MuistutaTiedostosta(int16_t slot) {
+    const std::string oddity = OddityOf(slot);
+    if (remarkIsOfFile_ || !oddity.empty()) {
+        platform_.mainForm.SetStatus(oddity);
+        remarkIsOfFile_ = true;
+    }
+}
+
 void PaaIkkuna::Huomauta(const std::string& remark) {
+    remarkIsOfFile_ = false;
     platform_.mainForm.SetStatus(remark);
     if (onRemark && !remark.empty()) {
         onRemark(remark);

@@ -45,6 +45,12 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void AvaaTiedosto(const std::string& path);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
     void Huomauta(const std::string& remark);
+    /// Remarks what is odd about the file that was just read; clears the line when nothing is.
+    void HuomautaTiedostosta(int16_t slot);
+    /// `Muistuta` means remind: the active window shows that file. What is odd about it stands in
+    /// the status bar again, in place of what is odd about another file. Any other remark gives way
+    /// only to an odd file.
+    void MuistutaTiedostosta(int16_t slot);
     /// The mouse is over an analysis window: the side panel closes.
     void HiiriMuualla() { panel_.Sulje(); }
     /// Whether the print preview page is shown.
@@ -89,6 +95,7 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     PopulationPanel populations_;
     PopulationCommands commands_;
     CopySource* kopioitava_ = nullptr;
+    bool remarkIsOfFile_ = false;  // the status bar tells of a file
 };
 
 }  // namespace tessarin

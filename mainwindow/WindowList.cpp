@@ -86,6 +86,7 @@ void AktivoiIkkuna(PaaIkkuna& main, int16_t id) {
     AsetaValinta(id, true);
     ActiveWindow = id;
     main.AsetaKopioitava(IkkunaPaikassa(id).get());
+    main.MuistutaTiedostosta(Ikkunat(id).FileIndex);
     if (FileInfoView* info = main.Kumppanit().fileInfo) {
         info->AsetaLista(id);
     }

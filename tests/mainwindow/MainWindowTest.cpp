@@ -327,6 +327,18 @@ TEST_F(FileLoadingTest, NewFilesGetTheirMembersAndOddOnesAWord) {
     OpenFcs(Write("plain.fcs"));
     EXPECT_EQ(platform.mainForm.status, "");
     EXPECT_EQ(platform.pointer.history.back(), MousePointer::kNormal);
+
+    main.AvaaTiedosto(Write("odd2.fcs", 3, "C"));
+    EXPECT_TRUE(platform.mainForm.status.starts_with("odd2.fcs: "));
+    AktivoiIkkuna(main, 1);
+    EXPECT_EQ(platform.mainForm.status, "");
+    AktivoiIkkuna(main, 2);
+    EXPECT_TRUE(platform.mainForm.status.starts_with("odd2.fcs: ")) << "its window is active again";
+    main.Huomauta("something else");
+    AktivoiIkkuna(main, 1);
+    EXPECT_EQ(platform.mainForm.status, "something else");
+    AktivoiIkkuna(main, 2);
+    EXPECT_TRUE(platform.mainForm.status.starts_with("odd2.fcs: "));
 }
 
 TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {

@@ -1,5 +1,6 @@
 #include "plots/UsedEvents.h"
 
+#include <algorithm>
 #include <cassert>
 
 namespace tessarin {
@@ -15,9 +16,14 @@ KaytetytTapahtumat::KaytetytTapahtumat(const Tiedosto& file, int16_t gate, int32
 std::span<const int32_t> KaytetytTapahtumat::Next() {
     std::size_t count = 0;
     if (members_.empty()) {
-        for (; next_ <= last_ && count < kBlock; next_ += step_) {
-            events_[count++] = static_cast<int32_t>(next_);
+        const int64_t left = next_ > last_ ? 0 : (last_ - next_) / step_ + 1;
+        count = static_cast<std::size_t>(std::min<int64_t>(left, kBlock));
+        const auto first = static_cast<int32_t>(next_);
+        const auto step = static_cast<int32_t>(step_);
+        for (std::size_t i = 0; i < count; ++i) {
+            events_[i] = first + static_cast<int32_t>(i) * step;  // a loop for vectors
         }
+        next_ += static_cast<int64_t>(count) * step_;
     } else {
         for (; next_ <= last_ && count < kBlock; next_ += step_) {
             events_[count] = static_cast<int32_t>(next_);

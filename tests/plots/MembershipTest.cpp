@@ -8,6 +8,7 @@
 #include "plots/MarkerMembership.h"
 #include "plots/PlotArea.h"
 #include "plots/PolygonMembership.h"
+#include "plots/UsedEvents.h"
 #include "populations/PolygonTest.h"
 #include "tests/support/ProgramFixture.h"
 
@@ -40,6 +41,30 @@ class MembershipTest : public ProgramTest {
 
     std::mt19937 random{3};
 };
+
+TEST_F(MembershipTest, EveryNthEventIsUsedWhenItIsAMember) {
+    const Tiedosto& file = Put();
+    for (int32_t event = 1; event <= file.EventCount; ++event) {
+        Tiedostot(1).Membership(event, 7) = event % 3 == 1 ? 1 : 0;
+    }
+    for (const int16_t gate : {int16_t{0}, int16_t{7}}) {
+        for (const int32_t step : {1, 2, 7, 2047, 5000, 6000, INT32_MAX}) {
+            std::vector<int32_t> expected;
+            for (int64_t event = 1; event <= file.EventCount; event += step) {
+                if (gate == 0 || event % 3 == 1) {
+                    expected.push_back(static_cast<int32_t>(event));
+                }
+            }
+            std::vector<int32_t> used;
+            KaytetytTapahtumat events(file, gate, step);
+            for (auto block = events.Next(); !block.empty(); block = events.Next()) {
+                used.insert(used.end(), block.begin(), block.end());
+            }
+            EXPECT_EQ(used, expected) << gate << " " << step;
+            EXPECT_TRUE(events.Next().empty());
+        }
+    }
+}
 
 TEST_F(MembershipTest, PolygonsHoldWhatIsInsideThemOnTheGrid) {
     Tiedosto& file = Put();

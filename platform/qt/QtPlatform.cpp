@@ -19,7 +19,8 @@ const QtEventLoop& AfterLook(const QtEventLoop& loop) {
 }  // namespace
 
 QtPlatform::QtPlatform(const Options& options)
-    : mainForm_(AfterLook(loop_), options.headless, options.unseen),
+    : loop_(options.unseen),
+      mainForm_(AfterLook(loop_), options.headless, options.unseen),
       dialogs_(mainForm_.Window()),
       popups_(mainForm_.Window()),
       printer_(options.headless ? std::make_unique<QtPrinter>(options.printerPath)

@@ -95,11 +95,10 @@ class ScriptedPlatform {
     ScriptedLocks locks;
     std::string programFolder = "program/";
     std::string dataFolder;
-    bool unseen = false;
 
     Platform Services() {
-        return {mainForm, dialogs, clipboard, pointer,       popups,     loop,  browser,
-                timers,   printer, locks,     programFolder, dataFolder, unseen};
+        return {mainForm, dialogs, clipboard, pointer, popups,        loop,
+                browser,  timers,  printer,   locks,   programFolder, dataFolder};
     }
 };
 

@@ -124,7 +124,7 @@ void FillMembers(Tiedosto& file) {
     file.Membership.Mitoita(BenchEvents(), kPopulationSlots);
     std::mt19937 random(5);
     for (int16_t slot = 1; slot <= kNames; ++slot) {
-        std::ranges::generate(file.Membership.Sarake(slot),
+        std::ranges::generate(file.Membership.OmaSarake(slot),
                               [&random] { return static_cast<uint8_t>(random() % 2); });
     }
 }

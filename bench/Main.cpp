@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "BenchFile.h"
+#include "OpenProgram.h"
 #include "OpeningPeak.h"
 
 namespace {
@@ -79,17 +80,25 @@ class RatioReporter : public benchmark::ConsoleReporter {
     std::map<std::string, std::map<std::string, Timing>> timings_;
 };
 
-// Takes our own options out of the arguments; gives the numbers of events to run with.
-std::vector<int32_t> TakeSizes(std::vector<char*>& arguments) {
-    constexpr std::string_view kEvents = "--events=";
-    std::vector<int32_t> sizes;
+// Takes the options that begin so out of the arguments; gives what stands behind.
+std::vector<std::string> TakeOption(std::vector<char*>& arguments, std::string_view option) {
+    std::vector<std::string> values;
     std::erase_if(arguments, [&](const char* argument) {
-        if (std::string_view(argument).starts_with(kEvents)) {
-            sizes.push_back(std::atoi(argument + kEvents.size()));
+        if (std::string_view(argument).starts_with(option)) {
+            values.emplace_back(argument + option.size());
             return true;
         }
         return false;
     });
+    return values;
+}
+
+// The numbers of events to run with.
+std::vector<int32_t> TakeSizes(std::vector<char*>& arguments) {
+    std::vector<int32_t> sizes;
+    for (const std::string& value : TakeOption(arguments, "--events=")) {
+        sizes.push_back(std::atoi(value.c_str()));
+    }
     if (sizes.empty()) {
         sizes.push_back(BenchEvents());
     }
@@ -101,6 +110,7 @@ std::vector<int32_t> TakeSizes(std::vector<char*>& arguments) {
 int main(int argc, char** argv) {
     std::vector<char*> arguments(argv, argv + argc);
     const std::vector<int32_t> sizes = TakeSizes(arguments);
+    const std::vector<std::string> programs = TakeOption(arguments, "--program=");
     int count = static_cast<int>(arguments.size());
     benchmark::Initialize(&count, arguments.data());
     if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
@@ -115,6 +125,9 @@ int main(int argc, char** argv) {
         tessarin::SetBenchEvents(size);
         benchmark::RunSpecifiedBenchmarks(&reporter);
         tessarin::PrintOpeningPeak();
+        for (const std::string& program : programs) {
+            tessarin::PrintOpenProgram(program);
+        }
     }
     return 0;
 }

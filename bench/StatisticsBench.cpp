@@ -26,7 +26,7 @@ const Tiedosto& Prepare(const char* type) {
         Populaatiot(slot).Type = type;
         Populaatiot(slot).AxisX = kX;
         Populaatiot(slot).AxisY = kY;
-        const auto members = file.Membership.Sarake(slot);
+        const auto members = file.Membership.OmaSarake(slot);
         for (std::size_t i = 0; i < members.size(); ++i) {
             members[i] = (i * 2654435761U >> (8U + static_cast<unsigned>(slot))) % 3 == 0 ? 1 : 0;
         }

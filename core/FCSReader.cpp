@@ -114,7 +114,7 @@ class FcsReading {
         NoteValuesNotFinite(file_, oddities_);
         ReadDisplay(keywords);
         NoteRanges(file_, oddities_);
-        file_.RawData.CopyFrom(file_.Data);
+        file_.RawData = file_.Data;
         file_.Fingerprint = fingerprint_ != 0 ? fingerprint_ : TiedostonSormenjalki(path_);
         file_.Oddities = oddities_.Line();
         file_.Valid = file_.Fingerprint != 0;
@@ -203,7 +203,6 @@ class FcsReading {
         }
         file_.Compensation.Mitoita(file_.ChannelCount, file_.ChannelCount);
         file_.Data.Mitoita(file_.EventCount, file_.ChannelCount);
-        file_.RawData.Mitoita(file_.EventCount, file_.ChannelCount);
         file_.Membership.Mitoita(file_.EventCount, kPopulationSlots);
         return true;
     }
@@ -240,7 +239,7 @@ class FcsReading {
             const double divider = HasOldScale(file_)
                                        ? kOldScaleDivider
                                        : Rounded(kanava.Range / std::log10(kanava.Range));
-            Convert(file_.Data.Sarake(channel), divider);
+            Convert(file_.Data.OmaSarake(channel), divider);
         }
     }
 
@@ -326,15 +325,15 @@ bool LisaaKanava(int16_t slot) {
         TapahtumaTaulu<float> compensation;
         compensation.Mitoita(channels, channels);
         for (int into = 1; into < channels; ++into) {
-            const auto old = file.Compensation.Sarake(into);
-            std::copy(old.begin(), old.end(), compensation.Sarake(into).begin());
+            std::ranges::copy(file.Compensation.Sarake(into), compensation.OmaSarake(into).begin());
         }
-        TapahtumaTaulu<float> raw;
-        raw.CopyFrom(file.RawData);
+        TapahtumaTaulu<float> raw = file.RawData;
         raw.LisaaSarake();
+        TapahtumaTaulu<float> data = file.Data;
+        data.LisaaSarake();
         file.Channels.Mitoita(channels);
-        file.Data.LisaaSarake();
         file.RawData = std::move(raw);
+        file.Data = std::move(data);
         file.Compensation = std::move(compensation);
     } catch (const std::bad_alloc&) {
         file.Channels.Mitoita(file.ChannelCount);

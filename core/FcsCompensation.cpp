@@ -85,7 +85,7 @@ void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
                                            static_cast<std::size_t>(j));
             // Numbers of 1 and above are the diagonal.
             if (factor && *factor < 1.0F && from != 0 && into != 0) {
-                file.Compensation(from, into) = *factor;
+                file.Compensation.Aseta(from, into, *factor);
             }
         }
     }
@@ -106,7 +106,7 @@ bool ReadComp(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
         for (int j = 1; j <= n; ++j) {
             const auto place = static_cast<std::size_t>(i - 1) * static_cast<std::size_t>(n) +
                                static_cast<std::size_t>(j);
-            file.Compensation(i, j) = factors.At(place).value_or(0) * -1.0F / 100.0F;
+            file.Compensation.Aseta(i, j, factors.At(place).value_or(0) * -1.0F / 100.0F);
         }
     }
     factors.Tell(oddities);

@@ -93,7 +93,7 @@ class DataReader {
             return;
         }
         for (int channel = 1; channel <= values_.Columns(); ++channel) {
-            float* to = values_.Sarake(channel).data() + firstRow;
+            float* to = values_.OmaSarake(channel).data() + firstRow;
             Bytes from = block_.data() + static_cast<std::size_t>(channel - 1) * Value::kBytes;
             for (int32_t i = 0; i < events; ++i, from += stride_) {
                 to[i] = Value::Get(from, cut_);
@@ -111,11 +111,11 @@ class DataReader {
             for (std::size_t i = 0; i < Value::kBytes && used < tail.size(); ++i) {
                 buffer_[i] = tail[used++];
             }
-            values_(row + 1, channel) = Value::Get(buffer_.data(), cut_);
+            values_.Aseta(row + 1, channel, Value::Get(buffer_.data(), cut_));
         }
         const float last = Value::Get(buffer_.data(), cut_);
         for (int channel = 1; channel <= values_.Columns(); ++channel) {
-            auto column = values_.Sarake(channel);
+            const auto column = values_.OmaSarake(channel);
             std::fill(column.begin() + row + 1, column.end(), last);
         }
     }

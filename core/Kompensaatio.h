@@ -9,7 +9,8 @@ namespace tessarin {
 ///
 /// With `Compensate` off the two are then equal. With it on, the spill of every channel a into
 /// channel b, `Compensation(a, b)` times the raw value of a, is taken off channel b, always from
-/// the raw values. REQUIRES: both tables have the same size.
+/// the raw values. Channels that nothing spills into share their memory with the raw values.
+/// Throws std::bad_alloc with `Data` as it was.
 void LaskeKompensaatio(Tiedosto& file);
 
 }  // namespace tessarin

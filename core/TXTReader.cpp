@@ -137,7 +137,7 @@ class TxtReading {
         for (int32_t event = 1; event <= file_.EventCount; ++event) {
             ReadRow(event);
         }
-        file_.Data.CopyFrom(file_.RawData);
+        file_.Data = file_.RawData;
         PathParts path = SplitPath(path_);
         file_.FileName = std::move(path.name);
         file_.Folder = std::move(path.folder);
@@ -186,7 +186,6 @@ class TxtReading {
         }
         file_.EventCount = static_cast<int32_t>(rows);
         file_.RawData.Mitoita(file_.EventCount, file_.ChannelCount);
-        file_.Data.Mitoita(file_.EventCount, file_.ChannelCount);
         file_.Compensation.Mitoita(file_.ChannelCount, file_.ChannelCount);
         file_.Membership.Mitoita(file_.EventCount, kPopulationSlots);
         file_.RowNames.Mitoita(file_.HasRowNames ? file_.EventCount : 0);
@@ -204,7 +203,7 @@ class TxtReading {
                 cells.AtEnd() ? std::optional<double>() : CellNumber(cells.Next(), comma);
             badCells_ += number ? 0 : 1;
             commaCells_ += comma ? 1 : 0;
-            file_.RawData(event, channel) = static_cast<float>(number.value_or(0));
+            file_.RawData.Aseta(event, channel, static_cast<float>(number.value_or(0)));
         }
     }
 

@@ -66,11 +66,24 @@ Tiedosto ReadTable(PaaIkkuna& main, const std::string& path) {
     return std::move(read.file);
 }
 
+// Compensation needs memory too; a file that cannot have it is refused like one too large to read.
+void CompensateOrRefuse(Tiedosto& file) {
+    try {
+        LaskeKompensaatio(file);
+    } catch (const std::bad_alloc&) {
+        file = Tiedosto();
+        file.OutOfMemory = true;
+    }
+}
+
 // Reads into a slot; `fingerprint` is the file's or, when nobody knows it yet, 0. On refusal the
 // slot keeps what it holds and the user is told.
 bool ReadInto(PaaIkkuna& main, const std::string& path, int32_t fingerprint, int16_t slot,
               LukuTapa way) {
     Tiedosto file = way == LukuTapa::kTxt ? ReadTable(main, path) : LueFCS(path, fingerprint);
+    if (file.Valid) {
+        CompensateOrRefuse(file);
+    }
     if (!file.Valid) {
         main.Services().dialogs.Message(file.OutOfMemory
                                             ? "There is not enough memory to load the file"
@@ -79,7 +92,6 @@ bool ReadInto(PaaIkkuna& main, const std::string& path, int32_t fingerprint, int
         return false;
     }
     Tiedostot(slot) = std::move(file);
-    LaskeKompensaatio(Tiedostot(slot));
     return true;
 }
 

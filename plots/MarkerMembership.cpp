@@ -37,7 +37,7 @@ TESSARIN_WIDE bool SetSureMembers(std::span<const float> values, const MarkerLim
 // not, or that is not a number, are projected.
 void TestFile(Tiedosto& file, int16_t slot, int16_t channel, double low, double high) {
     const std::span<const float> values = file.Data.Sarake(channel);
-    const std::span<uint8_t> members = file.Membership.Sarake(slot);
+    const std::span<uint8_t> members = file.Membership.OmaSarake(slot);
     const AkseliProjektio axis(file.Channels(channel));
     const MarkerLimits limits{axis.RajatPaikalle(low, kGrid), axis.RajatPaikalle(high, kGrid)};
     constexpr std::size_t kBlock = 512;
@@ -69,8 +69,7 @@ void TarkistaMarkkeri(int16_t slot) {
             TestFile(file, slot, marker.AxisX, static_cast<double>(left),
                      static_cast<double>(right));
         } else {
-            const auto members = file.Membership.Sarake(slot);
-            std::fill(members.begin(), members.end(), uint8_t{0});
+            file.Membership.NollaaSarake(slot);
         }
     }
     TarkistaKayttavatMaaritelmat(slot);

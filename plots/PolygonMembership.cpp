@@ -82,7 +82,7 @@ struct GridBlock {
 
 void TestFile(Tiedosto& file, int16_t slot, const Populaatio& polygon,
               std::span<const Kulma> corners) {
-    const std::span<uint8_t> members = file.Membership.Sarake(slot);
+    const std::span<uint8_t> members = file.Membership.OmaSarake(slot);
     std::ranges::fill(members, uint8_t{0});
     Sieve sieve(file, polygon, corners);
     GridBlock block;
@@ -124,8 +124,7 @@ void TarkistaMonikulmio(int16_t slot) {
         if (HasChannels(file, polygon)) {
             TestFile(file, slot, polygon, corners);
         } else {
-            const auto members = file.Membership.Sarake(slot);
-            std::fill(members.begin(), members.end(), uint8_t{0});
+            file.Membership.NollaaSarake(slot);
         }
     }
     TarkistaKayttavatMaaritelmat(slot);

@@ -135,12 +135,12 @@ constexpr std::size_t kBlock = 2048;
 void Apply(Tiedosto& file, int16_t definition, std::span<const int16_t> slots,
            std::span<const uint8_t> rows) {
     std::array<uint16_t, kBlock> index;
-    const std::span<uint8_t> members = file.Membership.Sarake(definition);
+    const std::span<uint8_t> members = file.Membership.OmaSarake(definition);
     for (std::size_t from = 0; from < members.size(); from += kBlock) {
         const std::size_t count = std::min(kBlock, members.size() - from);
         index.fill(0);
         for (std::size_t name = 0; name < slots.size(); ++name) {
-            const auto column = std::as_const(file.Membership).Sarake(slots[name]);
+            const auto column = file.Membership.Sarake(slots[name]);
             const uint8_t* bits = column.subspan(from, count).data();
             for (std::size_t i = 0; i < count; ++i) {
                 index[i] = static_cast<uint16_t>(index[i] | (bits[i] & 1U) << name);

@@ -72,8 +72,7 @@ void PopulationCommands::PoistaRegion() {
     panel_.PaivitaRegionLista();
     for (Tiedosto& file : Tiedostot) {
         if (file.Valid) {
-            const auto members = file.Membership.Sarake(slot);
-            std::fill(members.begin(), members.end(), uint8_t{0});
+            file.Membership.NollaaSarake(slot);
         }
     }
     view_.PiirraKaikki();

@@ -134,7 +134,7 @@ void SetCell(const FileCall& call) {
     constexpr std::size_t kEventWord = 3;
     const int32_t event = call.Event(kEventWord);
     const int16_t channel = call.Channel(kEventWord + 1);
-    call.file.Data(event, channel) = static_cast<float>(NumberOf(call.line.value));
+    call.file.Data.Aseta(event, channel, static_cast<float>(NumberOf(call.line.value)));
 }
 
 const std::vector<FileCommand>& FileCommands() {

@@ -49,9 +49,9 @@ TEST_F(CompensationTest, TakesEachSpillOffTheRawValues) {
     Tiedosto file = Read(FcsBuilder("F", 32, "1,2,3,4", 3, 1));
     const float factors[] = {0, 0.5F, 0.25F, 0.25F, 0, 0.5F, 0, 0, 0.125F};
     for (int a = 1; a <= 3; ++a) {
-        file.RawData(1, a) = static_cast<float>(100 * a);
+        file.RawData.Aseta(1, a, static_cast<float>(100 * a));
         for (int b = 1; b <= 3; ++b) {
-            file.Compensation(a, b) = factors[a * 3 + b - 4];
+            file.Compensation.Aseta(a, b, factors[a * 3 + b - 4]);
         }
     }
     const auto working = [&](bool compensate) {
@@ -62,6 +62,28 @@ TEST_F(CompensationTest, TakesEachSpillOffTheRawValues) {
     // 100 - 200/4, 200 - 100/2 and 300 - 100/4 - 200/2 - 300/8
     EXPECT_EQ(working(true), (Values{50, 150, 137.5F}));
     EXPECT_EQ(working(false), (Values{100, 200, 300}));
+    EXPECT_TRUE(file.Data.JakaaSarakkeen(2, file.RawData));
+    for (int a = 1; a <= 3; ++a) {
+        file.Compensation.Aseta(a, 2, 0);
+    }
+    EXPECT_EQ(working(true), (Values{50, 200, 137.5F}));
+    EXPECT_TRUE(file.Data.JakaaSarakkeen(2, file.RawData)) << "nothing spills into it any more";
+    EXPECT_FALSE(file.Data.JakaaSarakkeen(1, file.RawData));
+}
+
+TEST_F(CompensationTest, ManyEventsAreAllReached) {
+    constexpr int32_t kEvents = 5000;  // more than are worked on at a time
+    Tiedosto file = Read(FcsBuilder("F", 32, "1,2,3,4", 2, kEvents));
+    for (int32_t event = 1; event <= kEvents; ++event) {
+        file.RawData.Aseta(event, 1, static_cast<float>(event));
+        file.RawData.Aseta(event, 2, 8);
+    }
+    file.Compensation.Aseta(1, 2, 0.5F);
+    file.Compensate = true;
+    LaskeKompensaatio(file);
+    for (int32_t event = 1; event <= kEvents; ++event) {
+        ASSERT_EQ(file.Data(event, 2), 8 - 0.5F * static_cast<float>(event));
+    }
 }
 
 }  // namespace

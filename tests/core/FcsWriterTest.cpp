@@ -41,9 +41,9 @@ class FcsWriterTest : public SessionTest {
 TEST_F(FcsWriterTest, LaysTheFileOut) {
     Tiedosto& file = Put(3, 2);
     file.Channels(2) = {"FL1", true, 262144};
-    file.RawData(1, 1) = 1;
-    file.RawData(3, 1) = -2;
-    file.RawData(1, 2) = 100;
+    file.RawData.Aseta(1, 1, 1);
+    file.RawData.Aseta(3, 1, -2);
+    file.RawData.Aseta(1, 2, 100);
     file.Otsikko.EndTime = "10:00";
     const std::string text =
         R"(\$BEGINANALYSIS\0\$ENDANALYSIS\0\$BEGINTEXT\0\$ENDTEXT\0\$NEXTDATA\0\$BEGINDATA\3000)"
@@ -72,7 +72,7 @@ TEST_F(FcsWriterTest, PutsDataWhereHeaderAndKeywordsSay) {
         ASSERT_EQ(bytes.find_last_not_of(' '), bytes.rfind("x\\") + 1);
         ASSERT_LE(bytes.size(), std::max<std::size_t>(3000, bytes.rfind('\\') + 3));
     }
-    Put(2, 60).RawData(2, 60) = 7;
+    Put(2, 60).RawData.Aseta(2, 60, 7);
     EXPECT_EQ(ReadBytes(Write()).RawData(2, 60), 7);
     // The header has eight digits for each place.
     EXPECT_EQ(BytesBeforeData("\\", 99997000)->substr(26, 16), "    300099999999");
@@ -122,7 +122,7 @@ TEST_F(FcsWriterTest, WritesFactorsAsPercentWithTheOtherSign) {
     const std::vector<float> factors = {0,       -0.005F,      0.12345678F, 0.2F, 0.12345F,
                                         0x1p40F, -0.12345678F, 0.005F,      1e-9F};
     for (int i = 0; i < 9; ++i) {
-        file.Compensation(i % 3 + 1, i / 3 + 1) = factors[static_cast<std::size_t>(i)];
+        file.Compensation.Aseta(i % 3 + 1, i / 3 + 1, factors[static_cast<std::size_t>(i)]);
     }
     EXPECT_EQ(Write().find("$COMP"), std::string::npos);
     file.Compensate = true;
@@ -148,7 +148,7 @@ TEST_F(FcsWriterTest, KeepsRealFilesAsTheyAre) {
         Tiedosto& file = Tiedostot(1) = LueFCS(*path);
         Tiedosto back = ReadBytes(Write());
         ASSERT_EQ(WrittenKeywords(back), WrittenKeywords(file));  // counts, names, scales, texts
-        file.Compensation.CopyFrom(back.Compensation);  // cut to four decimals of a percent
+        file.Compensation = back.Compensation;  // cut to four decimals of a percent
         LaskeKompensaatio(file);
         LaskeKompensaatio(back);
         for (int16_t n = 1; n <= file.ChannelCount; ++n) {

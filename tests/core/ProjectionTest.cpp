@@ -22,7 +22,7 @@ Tiedosto File(bool isLog, int32_t range, const std::vector<float>& values) {
     file.Channels.Mitoita(1);
     file.Channels(1) = {"", isLog, range};
     file.Data.Mitoita(file.EventCount, 1);
-    std::ranges::copy(values, file.Data.Sarake(1).begin());
+    std::ranges::copy(values, file.Data.OmaSarake(1).begin());
     return file;
 }
 

@@ -21,8 +21,8 @@ TEST_F(SessionTest, AnAddedChannelLeavesTheOthersAlone) {
     built.Set("$COMP", "2,0,-20,-50,0").data = std::string("\0\1\0\2\0\3\0\4\0\5\0\6", 12);
     Tiedostot(4) = Read(built);
     Tiedosto& file = Tiedostot(4);
-    file.Data(3, 2) = 77;  // working values differ from the raw ones
-    file.Membership(2, 16) = 1;
+    file.Data.Aseta(3, 2, 77);  // working values differ from the raw ones
+    file.Membership.Aseta(2, 16, 1);
     ASSERT_TRUE(LisaaKanava(4));
     EXPECT_EQ(file.ChannelCount, 3);
     EXPECT_EQ(file.Channels.size() + file.Data.Columns() + file.RawData.Columns(), 9);

@@ -32,11 +32,12 @@ void SetUp() {
         Populaatiot(slot).Defined = true;
         Populaatiot(slot).Name = std::string(1, static_cast<char>('p' + slot));
         for (int32_t event = 1; event <= file.EventCount; ++event) {
-            file.Membership(event, slot) = static_cast<uint8_t>((event - 1) >> (slot - 1) &
-                                                                1);  // NOLINT(hicpp-signed-bitwise)
+            file.Membership.Aseta(event, slot,
+                                  static_cast<uint8_t>((event - 1) >> (slot - 1) &
+                                                       1));  // NOLINT(hicpp-signed-bitwise)
         }
     }
-    for (uint8_t& member : file.Membership.Sarake(kSlot)) {
+    for (uint8_t& member : file.Membership.OmaSarake(kSlot)) {
         member = kUntouched;
     }
 }

@@ -269,7 +269,7 @@ TEST_F(FileLoadingTest, SavesFcsAndProtectsTheOriginals) {
     EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
 
     OpenFcs(own);
-    Tiedostot(Ikkunat(1).FileIndex).RawData(2, 1) = 99;
+    Tiedostot(Ikkunat(1).FileIndex).RawData.Aseta(2, 1, 99);
     EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "");
     EXPECT_EQ(LueFCS(own).Data(2, 1), 99) << "its own file is overwritten";
     MaxLoadedEvents = 3;

@@ -57,7 +57,7 @@ class GestureTest : public PlotTest {
 TEST_F(GestureTest, DrawsARegionThatHoldsForEveryFile) {
     PutFile(2, "other.fcs", {{"a", false, 1000, {500}}, {"b", false, 1000, {500}}});
     PutFile(3, "narrow.fcs", {{"a", false, 1000, {500}}});
-    Tiedostot(3).Membership(1, 1) = 1;  // left over
+    Tiedostot(3).Membership.Aseta(1, 1, 1);  // left over
     DrawSquare();
     const Populaatio& region = Populaatiot(1);
     EXPECT_TRUE(region.Defined);

@@ -18,7 +18,7 @@ TEST(HistogramBinsTest, CountsByPlaceOnTheAxis) {
             {{"a", false, 1024, {0, -3, 5, 5.5F, 1023.9F, 1024, 1025, NAN, 1e30F}},
              {"b", false, 262144, {255, 256, 511, 512, 0, 0, 0, 0, 0}},
              {"c", true, 10000, {1, 10, 100, 1000, 10000, 0, 0, 0, 0}}});
-    Tiedostot(1).Membership(5, 3) = 1;
+    Tiedostot(1).Membership.Aseta(5, 3, 1);
     const auto bins = LaskeHistogrammi({Tiedostot(1), 1}, 1024);
     ASSERT_EQ(bins.size(), 1025U);
     EXPECT_EQ(bins[0], 3) << "what is at the foot, below it, and no number";

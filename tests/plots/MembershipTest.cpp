@@ -45,7 +45,7 @@ class MembershipTest : public ProgramTest {
 TEST_F(MembershipTest, EveryNthEventIsUsedWhenItIsAMember) {
     const Tiedosto& file = Put();
     for (int32_t event = 1; event <= file.EventCount; ++event) {
-        Tiedostot(1).Membership(event, 7) = event % 3 == 1 ? 1 : 0;
+        Tiedostot(1).Membership.Aseta(event, 7, event % 3 == 1 ? 1 : 0);
     }
     for (const int16_t gate : {int16_t{0}, int16_t{7}}) {
         for (const int32_t step : {1, 2, 7, 2047, 5000, 6000, INT32_MAX}) {

@@ -104,12 +104,12 @@ TEST_F(StatisticsTest, AgreeWithASumOverEveryEvent) {
     values[4000] = INFINITY;  // a member of nothing
     Tiedosto& file =
         PutFile(1, "many.fcs", {{"a", false, 1000, values}, {"b", false, 1000, values}});
-    std::ranges::reverse(file.Data.Sarake(2));
+    std::ranges::reverse(file.Data.OmaSarake(2));
     for (const int16_t slot : std::array<int16_t, 2>{1, 2}) {
         DefinePolygon(slot, "P" + std::to_string(slot), {1, 1, 1}, {});
-        std::ranges::generate(file.Membership.Sarake(slot), [&] { return random() % 3 == 0; });
-        file.Membership(4001, slot) = 0;
-        file.Membership(kEvents - 4000, slot) = 0;
+        std::ranges::generate(file.Membership.OmaSarake(slot), [&] { return random() % 3 == 0; });
+        file.Membership.Aseta(4001, slot, 0);
+        file.Membership.Aseta(kEvents - 4000, slot, 0);
     }
     for (const auto& [gate, step] : {std::pair<int16_t, int32_t>(0, 1), {0, 7}, {1, 1}, {1, 7}}) {
         const PlainSums plain(file, gate, step);

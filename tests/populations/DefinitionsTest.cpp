@@ -30,7 +30,7 @@ class DefinitionsTest : public SessionTest {
         for (Tiedosto* file : {&Tiedostot(1), &Tiedostot(2)}) {
             file->Valid = file == &Tiedostot(1);
             file->Membership.Mitoita(kEvents, kPopulationSlots);
-            std::ranges::fill(file->Membership.Sarake(kSlot), 99);
+            std::ranges::fill(file->Membership.OmaSarake(kSlot), 99);
         }
     }
 
@@ -44,7 +44,7 @@ class DefinitionsTest : public SessionTest {
         }
     }
     static void Fill(int16_t slot, uint8_t bit) {
-        std::ranges::fill(Tiedostot(1).Membership.Sarake(slot), bit);
+        std::ranges::fill(Tiedostot(1).Membership.OmaSarake(slot), bit);
     }
     static bool All(int16_t slot, uint8_t bit) {
         return std::ranges::count(Tiedostot(1).Membership.Sarake(slot), bit) == kEvents;
@@ -55,7 +55,7 @@ class DefinitionsTest : public SessionTest {
     static std::string Answer(const std::string& expression, const std::string& bits) {
         auto& membership = Tiedostot(1).Membership;
         for (std::size_t i = 0; i < bits.size(); ++i) {
-            membership(kEvents, static_cast<int>(i) + 1) = bits[i] == '1' ? 1 : 0;
+            membership.Aseta(kEvents, static_cast<int>(i) + 1, bits[i] == '1' ? 1 : 0);
         }
         Fill(kSlot, 99);
         const std::string message = TarkistaMaaritelma(kSlot, expression);
@@ -98,7 +98,7 @@ TEST_F(DefinitionsTest, AnyExpressionMeansWhatItSays) {
         for (int32_t event = 1; event <= kEvents; ++event) {
             const bool member = random_() % 2 == 0;
             name.answer[static_cast<std::size_t>(event) - 1] = member;
-            Tiedostot(1).Membership(event, slot) = member ? 1 : 0;
+            Tiedostot(1).Membership.Aseta(event, slot, member ? 1 : 0);
         }
     }
     for (int tried = 0; tried < 150;) {

@@ -36,7 +36,7 @@ class PlotTest : public ProgramTest {
         row.Green = color.green;
         row.Blue = color.blue;
         for (const int32_t event : members) {
-            Tiedostot(1).Membership(event, slot) = 1;
+            Tiedostot(1).Membership.Aseta(event, slot, 1);
         }
     }
 };

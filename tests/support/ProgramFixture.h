@@ -43,10 +43,10 @@ inline Tiedosto& PutFile(int16_t slot, const std::string& name,
         const TestChannel& from = channels[static_cast<std::size_t>(channel) - 1];
         file.Channels(channel) = {from.name, from.isLog, from.range};
         for (int32_t event = 1; event <= events; ++event) {
-            file.Data(event, channel) = from.values[static_cast<std::size_t>(event) - 1];
+            file.Data.Aseta(event, channel, from.values[static_cast<std::size_t>(event) - 1]);
         }
     }
-    file.RawData.CopyFrom(file.Data);
+    file.RawData = file.Data;
     Tiedostot(slot) = std::move(file);
     return Tiedostot(slot);
 }

@@ -21,6 +21,7 @@ namespace {
 // Milliseconds of one run; below 0 when it failed.
 double RunOnce(std::vector<std::string> words) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }

@@ -13,10 +13,10 @@
 #include "mainwindow/WindowList.h"
 #include "platform/scripted/ScriptedPlatform.h"
 #include "plots/DotLayer.h"
+#include "plots/DotStatistics.h"
 #include "plots/HistogramBars.h"
 #include "plots/HistogramBins.h"
 #include "plots/RegisterPlots.h"
-#include "plots/Tilastot.h"
 
 namespace tessarin {
 namespace {
@@ -65,10 +65,10 @@ class TenWindows {
     void AddWindow(const char* type, int16_t pair) {
         const int16_t id = LuoIkkuna(*main_, type);
         const auto window = IkkunaPaikassa(id);
-        window->AsetaKanava("x", FirstChannel(pair));
-        window->AsetaKanava("y", SecondChannel(pair));
+        window->Channels()->AsetaKanava("x", FirstChannel(pair));
+        window->Channels()->AsetaKanava("y", SecondChannel(pair));
         if (HasStatistics(pair) && std::string(type) == "DotPlot") {
-            window->AvaaTaiSuljeStatistics("open");
+            window->Stats()->AvaaTaiSuljeStatistics("open");
         }
     }
 

@@ -30,11 +30,11 @@ class FullSession {
         store_ = std::make_unique<SheetStore>(*main_, true);
         main_->Kumppanit().views = store_.get();
         main_->Kaynnista();
-        OletusKoko = {1500, 1500};
-        OletusKokoHistogram = {1500, 1500};
+        OletusKoko("DotPlot") = {1500, 1500};
+        OletusKoko("Histogram") = {1500, 1500};
         for (int16_t id = 1; id <= MaxWindows; ++id) {
             LuoIkkunaPaikkaan(*main_, id % 2 == 0 ? "DotPlot" : "Histogram", id);
-            IkkunaPaikassa(id)->AvaaTaiSuljeStatistics(id % 4 < 2 ? "open" : "close");
+            IkkunaPaikassa(id)->Stats()->AvaaTaiSuljeStatistics(id % 4 < 2 ? "open" : "close");
         }
         for (int16_t slot = 1; slot <= kPopulationSlots; ++slot) {
             Populaatio& row = Populaatiot(slot);

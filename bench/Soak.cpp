@@ -76,8 +76,8 @@ class Session {
         main_->Kumppanit().views = store_.get();
         main_->Kaynnista();
         main_->AvaaTiedosto(FilePath(1));
-        IkkunaPaikassa(1)->AsetaKanava("x", 5);
-        IkkunaPaikassa(1)->AsetaKanava("y", 6);
+        IkkunaPaikassa(1)->Channels()->AsetaKanava("x", 5);
+        IkkunaPaikassa(1)->Channels()->AsetaKanava("y", 6);
         LuoIkkuna(*main_, "Histogram");
         DefineRegions();
         KirjoitaNakyma(*main_, NakymaLaji::kSheet, Path("s.tessarin"));

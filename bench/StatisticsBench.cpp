@@ -7,8 +7,8 @@
 #include "BenchFile.h"
 #include "Beside.h"
 #include "core/Muuttujat.h"
+#include "plots/DotStatistics.h"
 #include "plots/HistogramStatistics.h"
-#include "plots/Tilastot.h"
 
 namespace tessarin {
 namespace {

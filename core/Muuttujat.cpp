@@ -1,6 +1,7 @@
 #include "core/Muuttujat.h"
 
 #include <algorithm>
+#include <map>
 
 #include "core/RegionMuuttujat.h"
 
@@ -27,10 +28,12 @@ bool PanelCollapsed = true;
 bool PanelFrozen = false;
 int16_t KokoaMuutetaan = 0;
 
-RememberedSize OletusKoko;
-RememberedSize OletusKokoHistogram;
-
 namespace {
+
+std::map<std::string, RememberedSize, std::less<>>& Sizes() {
+    static std::map<std::string, RememberedSize, std::less<>> sizes;
+    return sizes;
+}
 
 constexpr std::array<Rgb, kPopulationSlots> kDefaultColors = {{
     {255, 50, 0},    {255, 255, 0},   {0, 0, 255},     {255, 0, 255},  {120, 120, 120},
@@ -46,7 +49,7 @@ void EmptyTables() {
     Tiedostot = Taulu<Tiedosto>(MaxFiles);
     Ikkunat = Taulu<Ikkuna>(MaxWindows);
     IkkunatStat = Taulu<Ikkuna>(MaxWindows);
-    Populaatiot = Taulu<Populaatio>(kPopulationSlots);
+    std::fill(Populaatiot.begin(), Populaatiot.end(), Populaatio());  // whose places do not change
     for (int slot = 1; slot <= kPopulationSlots; ++slot) {
         const Rgb color = kDefaultColors[static_cast<std::size_t>(slot) - 1];
         Populaatiot(slot).Red = color.red;
@@ -73,9 +76,14 @@ void PalautaAlkutila() {
     PanelCollapsed = true;
     PanelFrozen = false;
     KokoaMuutetaan = 0;
-    OletusKoko = {};
-    OletusKokoHistogram = {};
+    for (auto& [group, size] : Sizes()) {
+        size = {};
+    }
     PalautaEleet();
+}
+
+RememberedSize& OletusKoko(std::string_view group) {
+    return Sizes().try_emplace(std::string(group)).first->second;
 }
 
 void VapautaTiedosto(int16_t slot) {

@@ -66,8 +66,9 @@ struct RememberedSize {
     int32_t Leveys = 0;   ///< width
     int32_t Korkeus = 0;  ///< height
 };
-extern RememberedSize OletusKoko;           // dot plot, flux tracker, projector
-extern RememberedSize OletusKokoHistogram;  // histogram
+/// `OletusKoko` means default size: that of the kinds of windows that share `group`, the type of
+/// one of them. What is given stays in its place.
+RememberedSize& OletusKoko(std::string_view group);
 
 /// Puts every table, option and flag back to the state at program start.
 void PalautaAlkutila();

@@ -11,6 +11,9 @@
 
 namespace tessarin {
 
+/// Regions are kept on a grid that goes from 0 to this on both axes, y from the top.
+inline constexpr double kGrid = 10000;
+
 /// log10(x) for x above 0, else 0. REQUIRES: x is not subnormal; no value of a file is.
 double Log10Arvo(double x);
 

@@ -22,33 +22,13 @@ class ViewStore {
     virtual void PoistaAutosave() = 0;
 };
 
-/// A window that there is one of at most, and that a sheet knows too.
-class SheetCompanion {
-  public:
-    virtual ~SheetCompanion() = default;
-    /// Whether its menu item is checked.
-    virtual bool OnkoNakyvissa() const = 0;
-    /// Checks its menu item and shows it, or the opposite.
-    virtual void AsetaNakyvyys(bool shown) = 0;
-    /// Its settings as key lines of a sheet, without the word in front.
-    virtual std::vector<std::string> SaveInfo() const = 0;
-    /// Takes one whole line of a sheet.
-    virtual void LoadInfo(std::string_view line) = 0;
-};
-
 /// The page composed for printing.
-class PreviewPage : public SheetCompanion {
+class PreviewPage {
   public:
+    virtual ~PreviewPage() = default;
+    /// Whether it is shown.
+    virtual bool OnkoNakyvissa() const = 0;
     virtual void Piirra() = 0;
-};
-
-/// The window that lists what is known of a file.
-class FileInfoView : public SheetCompanion {
-  public:
-    /// Shows the file of that window.
-    virtual void AsetaLista(int16_t window) = 0;
-    /// A sheet was loaded: shows what is there now.
-    virtual void FileInfonAsetusLatauksenJalkeen() = 0;
 };
 
 /// The tools that are installed beside the program.
@@ -61,12 +41,38 @@ class ToolMenu {
     virtual void Aja(std::size_t tool) = 0;
 };
 
-/// Each is null while the program has none.
+/// A part of a sheet beside files, populations and windows: a window that there is one of at most.
+class SheetSection {
+  public:
+    virtual ~SheetSection() = default;
+    /// The first field of its keys, such as "fileinfo".
+    virtual std::string_view SheetName() const = 0;
+    /// Whether the window is shown, which a sheet notes and brings back.
+    virtual bool OnkoNakyvissa() const = 0;
+    virtual void AsetaNakyvyys(bool shown) = 0;
+    /// Its settings as key lines without the first field; none when it does not save them now.
+    virtual std::vector<std::string> SaveInfo() const = 0;
+    /// Takes one whole line of a sheet.
+    virtual void LoadInfo(std::string_view line) = 0;
+    /// All of a sheet is there, and `Loading` is over.
+    virtual void SheetLoaded() {}
+};
+
+/// Hears of what happens to windows.
+class WindowListener {
+  public:
+    virtual ~WindowListener() = default;
+    /// The window became the active one, or took another file.
+    virtual void AsetaLista(int16_t window) = 0;
+};
+
+/// Each pointer is null while the program has none.
 struct Companions {
     ViewStore* views = nullptr;
     PreviewPage* preview = nullptr;
-    FileInfoView* fileInfo = nullptr;
     ToolMenu* tools = nullptr;
+    std::vector<SheetSection*> sections{};
+    std::vector<WindowListener*> listeners{};
 };
 
 }  // namespace tessarin

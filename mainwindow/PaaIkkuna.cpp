@@ -6,9 +6,6 @@
 #include "core/Muuttujat.h"
 #include "mainwindow/Exit.h"
 #include "mainwindow/FileLoading.h"
-#include "mainwindow/FileNavigation.h"
-#include "mainwindow/FileSaving.h"
-#include "mainwindow/LimitDialogs.h"
 #include "mainwindow/MenuTree.h"
 #include "mainwindow/WindowList.h"
 #include "mainwindow/WindowRegistry.h"
@@ -24,36 +21,12 @@ std::string OddityOf(int16_t slot) {
 
 }  // namespace
 
-const std::map<std::string_view, PaaIkkuna::Handler>& PaaIkkuna::Handlers() {
-    static const std::map<std::string_view, Handler> handlers = {
-        {"FileOpenFCS", [](PaaIkkuna& main) { FileOpenFCS(main); }},
-        {"FileOpenTXT", FileOpenTXT},
-        {"FileNextFile", FileNextFile},
-        {"FilePreviousFile", FilePreviousFile},
-        {"FileSaveFCS", FileSaveFCS},
-        {"FileSaveFCSEiKysymysta", FileSaveFCSEiKysymysta},
-        {"FileOpenView", [](PaaIkkuna& main) { main.OpenView(); }},
-        {"FileSaveView", [](PaaIkkuna& main) { main.TalletaNakyma("Sheet"); }},
-        {"MenuSaveAnalysisPackage", [](PaaIkkuna& main) { main.TalletaNakyma("Paketti"); }},
-        {"FileExit", [](PaaIkkuna& main) { FileExit(main); }},
-        {"CopyImages", [](PaaIkkuna& main) { main.CopyImages(); }},
-        {"SelectAll", [](PaaIkkuna&) { ValitseKaikki(); }},
-        {"AsetaFastDrawLimit",
-         [](PaaIkkuna& main) { AsetaFastDrawLimit(main.Services().dialogs); }},
-        {"AsetaLadattavienPisteidenMaara",
-         [](PaaIkkuna& main) { AsetaLadattavienPisteidenMaara(main.Services().dialogs); }},
-        {"KaytaNegAbsJuttua", [](PaaIkkuna& main) { main.ToggleBumper(); }},
-        {"AvaaHelp", [](PaaIkkuna& main) { main.ShowHelp(); }},
-        {"AvaaAboutLaatikko", [](PaaIkkuna& main) { main.ShowAbout(); }},
-    };
-    return handlers;
-}
-
 PaaIkkuna::PaaIkkuna(const Platform& platform)
     : platform_(platform),
       panel_(platform.mainForm),
       populations_(platform.mainForm),
-      commands_(platform.dialogs, populations_, *this) {
+      panelCommands_(platform.dialogs, populations_, *this) {
+    LisaaOmatKomennot(commands_);
     NaytaTiimalasi = [this](bool busy) {
         platform_.pointer.SetPointer(busy ? MousePointer::kHourglass : MousePointer::kNormal);
     };
@@ -70,14 +43,15 @@ void PaaIkkuna::Kaynnista() {
     MainForm& form = platform_.mainForm;
     form.SetTitle("Tessarin v. " + std::string(ProgramVersionText));
     form.BuildMenus(MenuTree(
-        [](std::string_view command) {
-            return Handlers().contains(command) || EtsiLajiKomennolla(command) != nullptr;
+        [this](std::string_view command) {
+            return commands_.Etsi(command) != nullptr || EtsiLajiKomennolla(command) != nullptr;
         },
         ToolNames()));
     form.Show();
     panel_.Alusta();
     populations_.Rakenna();
     populations_.PaivitaRegionLista();
+    PaivitaKomennot();
     if (companions_.views != nullptr) {
         companions_.views->TarjoaPalautusta();
     }
@@ -95,6 +69,7 @@ void PaaIkkuna::PiirraKaikki() {
         platform_.loop.Yield();
     }
     populations_.PaivitaRegionLista();
+    PaivitaKomennot();
     TalletaNakyma("Autosave");
 }
 
@@ -145,13 +120,26 @@ void PaaIkkuna::Command(std::string_view command) {
     if (Loading) {
         return;  // events run while a sheet is loaded; commands would find half a session
     }
-    const auto handler = Handlers().find(command);
-    if (handler != Handlers().end()) {
-        handler->second(*this);
+    if (const Komento* known = commands_.Etsi(command)) {
+        if (!known->enabled || known->enabled(*this)) {
+            known->run(*this);
+        }
     } else if (const WindowKind* kind = EtsiLajiKomennolla(command)) {
         LuoIkkuna(*this, kind->type);
     } else {
         RunTool(command);
+    }
+}
+
+void PaaIkkuna::PaivitaKomennot() {
+    commands_.KayEhdolliset([this](const Komento& command) {
+        platform_.mainForm.SetItemEnabled(command.name, command.enabled(*this));
+    });
+}
+
+void PaaIkkuna::KerroIkkunasta(int16_t window) {
+    for (WindowListener* listener : companions_.listeners) {
+        listener->AsetaLista(window);
     }
 }
 

@@ -3,11 +3,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "mainwindow/Commands.h"
 #include "mainwindow/Companions.h"
 #include "mainwindow/CopySource.h"
 #include "mainwindow/SlidingPanel.h"
@@ -34,6 +34,7 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     PopulationPanel& Paneeli() { return populations_; }
     const PopulationPanel& Paneeli() const { return populations_; }
     Companions& Kumppanit() { return companions_; }
+    Komennot& Kasky() { return commands_; }
 
     /// `PiirraKaikki` means draw all: redraws every window in slot order, letting events run in
     /// between, then refreshes the panel and autosaves.
@@ -41,6 +42,8 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// Writes the session and brings it back, once something that can is there; see `ViewStore`.
     void TalletaNakyma(std::string_view mode);
     bool LataaNakyma(const std::string& path);
+    /// "Open analysis view...": asks for a sheet.
+    void OpenView();
     /// Opens a file by its ending: a sheet replaces the session, data come in a new dot plot.
     void AvaaTiedosto(const std::string& path);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
@@ -51,6 +54,11 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// the status bar again, in place of what is odd about another file. Any other remark gives way
     /// only to an odd file.
     void MuistutaTiedostosta(int16_t slot);
+    /// `PaivitaKomennot` means update the commands: items whose commands cannot be chosen now are
+    /// disabled.
+    void PaivitaKomennot();
+    /// Tells whoever listens that a window became the active one or took another file.
+    void KerroIkkunasta(int16_t window);
     /// The mouse is over an analysis window: the side panel closes.
     void HiiriMuualla() { panel_.Sulje(); }
     /// Whether the print preview page is shown.
@@ -61,6 +69,14 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// It goes; call it from the destructor of what was given.
     void UnohdaKopioitava(const CopySource* source);
 
+    /// "Copy to clipboard": the image or text of the child window that became active last.
+    void CopyImages();
+    /// "Use neg value bumper".
+    void ToggleBumper();
+    /// "Online Help" and "About Tessarin".
+    void ShowHelp();
+    void ShowAbout();
+
     /// Also told each remark, where nobody sees a status bar.
     std::function<void(const std::string&)> onRemark;
 
@@ -70,30 +86,24 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void PanelMouseMove() override { panel_.Avaa(); }
     void FreezePanel(bool frozen) override;
     void PanelRowSelected(int slot) override { populations_.Valitse(slot); }
-    void PanelButtonPressed(PanelButton button) override { commands_.Paina(button); }
-    void PanelColorClicked(int slot, bool twice) override { commands_.VaihdaVari(slot, twice); }
-    void PanelLabelDoubleClicked(int slot) override { commands_.VaihdaLapinakyvyys(slot); }
+    void PanelButtonPressed(PanelButton button) override { panelCommands_.Paina(button); }
+    void PanelColorClicked(int slot, bool twice) override {
+        panelCommands_.VaihdaVari(slot, twice);
+    }
+    void PanelLabelDoubleClicked(int slot) override { panelCommands_.VaihdaLapinakyvyys(slot); }
     void CloseRequested() override;
     void FilesDropped(const std::vector<std::string>& paths) override;
 
   private:
-    using Handler = void (*)(PaaIkkuna&);
-    /// What each menu command does; a command that stands in the menu only has no row here.
-    static const std::map<std::string_view, Handler>& Handlers();
-
-    void OpenView();
     std::vector<std::string> ToolNames() const;
     void RunTool(std::string_view command);
-    void CopyImages();
-    void ToggleBumper();
-    void ShowHelp();
-    void ShowAbout();
 
     Platform platform_;
     Companions companions_;
+    Komennot commands_;
     SlidingPanel panel_;
     PopulationPanel populations_;
-    PopulationCommands commands_;
+    PopulationCommands panelCommands_;
     CopySource* kopioitava_ = nullptr;
     bool remarkIsOfFile_ = false;  // the status bar tells of a file
 };

@@ -22,8 +22,8 @@ void ShowPopulationClick(PaaIkkuna& main, int item) {
     const int16_t population = main.Paneeli().NaytaValikonPopulaatio(item);
     for (int16_t id = 1; id <= MaxWindows; ++id) {
         const auto window = IkkunaPaikassa(id);
-        if (window != nullptr && Ikkunat(id).Selected) {
-            window->NaytaPopulaatio(population);
+        if (window != nullptr && window->Gate() != nullptr && Ikkunat(id).Selected) {
+            window->Gate()->NaytaPopulaatio(population);
         }
     }
     main.TalletaNakyma("Autosave");
@@ -38,7 +38,7 @@ void MenuClick(PaaIkkuna& main, int item) {
 
 }  // namespace
 
-void NaytaNappiMenu(PaaIkkuna& main, int16_t id, std::span<const WindowMenuItem> items) {
+void NaytaNappiMenu(PaaIkkuna& main, int16_t id, const std::vector<WindowMenuItem>& items) {
     PopupIkkuna = id;
     std::vector<PopupEntry> entries = {ShowPopulationEntry(main)};
     for (const WindowMenuItem& item : items) {
@@ -59,15 +59,17 @@ int NaytaStatMenu(PaaIkkuna& main, int16_t id, const std::vector<PopupEntry>& it
     return main.Services().popups.Show(entries).item;
 }
 
-void NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file) {
+int16_t NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file) {
     std::vector<PopupEntry> entries;
     for (const Kanava& channel : file.Channels) {
         entries.push_back({channel.Name});
     }
     const PopupChoice choice = main.Services().popups.Show(entries);
-    if (choice.item >= 0) {
-        ValittuKanava = static_cast<int16_t>(choice.item);
+    if (choice.item < 0) {
+        return 0;
     }
+    ValittuKanava = static_cast<int16_t>(choice.item);
+    return static_cast<int16_t>(choice.item + 1);
 }
 
 }  // namespace tessarin

@@ -87,9 +87,8 @@ void AktivoiIkkuna(PaaIkkuna& main, int16_t id) {
     ActiveWindow = id;
     main.AsetaKopioitava(IkkunaPaikassa(id).get());
     main.MuistutaTiedostosta(Ikkunat(id).FileIndex);
-    if (FileInfoView* info = main.Kumppanit().fileInfo) {
-        info->AsetaLista(id);
-    }
+    main.KerroIkkunasta(id);
+    main.PaivitaKomennot();
 }
 
 void PaivitaKehysOtsikko(int16_t id) {
@@ -97,10 +96,8 @@ void PaivitaKehysOtsikko(int16_t id) {
     if (window == nullptr) {
         return;
     }
-    if (const auto title = window->AnnaOtsikko()) {
-        const std::string prefix(Ikkunat(id).Selected ? SelectedPrefix : "");
-        window->Lomake().SetCaption(prefix + *title);
-    }
+    const std::string prefix(Ikkunat(id).Selected ? SelectedPrefix : "");
+    window->Lomake().SetCaption(prefix + window->AnnaOtsikko());
 }
 
 void VapautaIkkuna(int16_t id) {

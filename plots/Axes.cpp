@@ -78,6 +78,13 @@ void PiirraYTikit(Kuva& surface, const PlotArea& area, const Kanava& channel, Rg
     }
 }
 
+void PiirraAkselisto(Kuva& surface, const PlotArea& area, const Kanava& x, const Kanava& y,
+                     Rgb color) {
+    PiirraAkselit(surface, area, color);
+    PiirraXTikit(surface, area, x, color);
+    PiirraYTikit(surface, area, y, color);
+}
+
 void PiirraXOtsikko(Kuva& surface, const PlotArea& area, std::string_view name) {
     surface.SetCurrent(area.W() / 2 - TextWidth(name) / 2, area.Bottom() + TikinPituus);
     surface.Print(name);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/Tiedosto.h"
-#include "plots/PlotArea.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 
@@ -18,6 +18,10 @@ std::vector<double> TikkienPaikat(const Kanava& channel, double length);
 void PiirraAkselit(Kuva& surface, const PlotArea& area, Rgb color);
 void PiirraXTikit(Kuva& surface, const PlotArea& area, const Kanava& channel, Rgb color);
 void PiirraYTikit(Kuva& surface, const PlotArea& area, const Kanava& channel, Rgb color);
+
+/// The lines and the ticks of a plot of two channels.
+void PiirraAkselisto(Kuva& surface, const PlotArea& area, const Kanava& x, const Kanava& y,
+                     Rgb color);
 
 /// Channel name centred under the x axis.
 void PiirraXOtsikko(Kuva& surface, const PlotArea& area, std::string_view name);

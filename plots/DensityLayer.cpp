@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "core/Numbers.h"
-#include "core/Projektio.h"
 #include "core/WideVectors.h"
 
 namespace tessarin {
@@ -87,14 +86,13 @@ void TiheysKuva::Piirra(Kuva& surface, const PlotArea& area, const PlotData& dat
     std::array<uint32_t, KaytetytTapahtumat::kBlock> pixel;
     CellBlock cells;
     Blocks blocks = CellSize(area, resolution);
-    KaytetytTapahtumat used(data.file, data.gate, data.PiirtoVali);
+    const ChannelPlacer placer(data.file, data.KanavaX, data.KanavaY);
+    const double cellsAcross = resolution;
+    const PlaneFrame plane{0, cellsAcross, cellsAcross, cellsAcross};
+    KaytetytTapahtumat used(data.Events());
     for (auto events = used.Next(); !events.empty(); events = used.Next()) {
         const std::size_t count = events.size();
-        AnnaPaikat(data.file, events, data.KanavaX, resolution, x);
-        AnnaPaikat(data.file, events, data.KanavaY, resolution, y);
-        for (std::size_t i = 0; i < count; ++i) {
-            y[i] = resolution - y[i];
-        }
+        placer.Place(events, plane, x, y);
         CellsOf({x.data(), count}, resolution, cells.x);
         CellsOf({y.data(), count}, resolution, cells.y);
         for (std::size_t i = 0; i < count; ++i) {

@@ -1,143 +1,162 @@
 #include "plots/DotPlot.h"
 
-#include <algorithm>
-
-#include "core/Muuttujat.h"
-#include "core/Numbers.h"
 #include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/SaveQuestion.h"
 #include "plots/Axes.h"
+#include "plots/EventText.h"
 #include "plots/PolygonMembership.h"
-#include "plots/RegionOutlines.h"
+#include "windows/PolygonGesture.h"
+#include "windows/RegionOutlines.h"
 
 namespace tessarin {
+namespace {
+
+constexpr FrameKind kFrame{
+    .emptyTitle = "Dot Plot - No File", .fileTitle = "Dot Plot - ", .sizeGroup = "DotPlot"};
+
+constexpr RegionKind kPolygons{"Poly-", "region"};
+
+}  // namespace
 
 DotPlot::DotPlot(PaaIkkuna& main)
-    : PlotWindow(main, {"Dot Plot", "region", "BMP files (*.BMP)|*.bmp", Items(), OletusKoko}) {}
+    : FrameWindow(main, kFrame),
+      regions_(RegionPart::Make<MonikulmioEle>(*this, *this, kPolygons)) {}
 
-void DotPlot::ReplaceMissingChannels(const Tiedosto& file) {
-    const int16_t channels = file.ChannelCount;
-    if (KanavaX < 1 || KanavaX > channels) {
-        KanavaX = 1;
-    }
-    if (KanavaY < 1 || KanavaY > channels) {
-        KanavaY = std::min<int16_t>(2, channels);
-    }
+void DotPlot::UnloadWindow() {
+    regions_->Unohda();
+    statistics_.Sulje();
+    FrameWindow::UnloadWindow();
 }
 
-void DotPlot::DrawPlot(const Tiedosto& file, const PlotArea& area) {
-    DrawAxes(file, area);
-    DrawEvents(file, area);
-    DrawRegions(area);
-    DrawFastMark(area);
-    PiirraXOtsikko(Surface(), area, file.Channels(KanavaX).Name);
-    PiirraYOtsikko(Surface(), area, file.Channels(KanavaY).Name);
-    if (kvadrantti_.KvadranttiKaytossa && !kvadrantti_.KvadranttiLiikkuu) {
-        kvadrantti_.Piirra(Surface(), area, tausta_.Line());
+// What is drawn.
+
+void DotPlot::Prepare() {
+    axes_.Sovita(*File());
+    view_.Sovita();
+}
+
+PlotData DotPlot::UsedData(const Tiedosto& file, int32_t step) const {
+    return {file, axes_(1), axes_(2), view_.Portti(), step};
+}
+
+void DotPlot::DrawPicture(const PlotArea& area) {
+    const Tiedosto& file = *File();
+    const Rgb line = Background().Line();
+    PiirraAkselisto(Surface(), area, file.Channels(axes_(1)), file.Channels(axes_(2)), line);
+    density_.Piirra(area, UsedData(file, view_.KuvanVali()));
+    if (regions_->OnkoViivat()) {
+        PiirraAluerajat(Surface(), area, regions_->Nakyma(), line);
+        PiirraAlueidenNimet(Surface(), area, regions_->Nakyma());
     }
-}
-
-void DotPlot::DrawAxes(const Tiedosto& file, const PlotArea& area) {
-    PiirraAkselit(Surface(), area, tausta_.Line());
-    PiirraXTikit(Surface(), area, file.Channels(KanavaX), tausta_.Line());
-    PiirraYTikit(Surface(), area, file.Channels(KanavaY), tausta_.Line());
-}
-
-void DotPlot::DrawEvents(const Tiedosto& file, const PlotArea& area) {
-    const int32_t step =
-        IsBeingResized() ? KoonMuutosVali(file.EventCount, nopea_.PiirtoVali) : nopea_.PiirtoVali;
-    const PlotData data = UsedData(file, step);
-    if (Tiheys) {
-        density_.Piirra(Surface(), area, data, TiheysResoluutio);
-    } else {
-        PiirraPisteet(Surface(), area, data, {PisteenKoko, MoniVari, tausta_.Line()});
-    }
-}
-
-void DotPlot::DrawRegions(const PlotArea& area) {
-    if (AlueViivat) {
-        PiirraAluerajat(Surface(), area, EleenNakyma(), tausta_.Line());
-        PiirraAlueidenNimet(Surface(), area, EleenNakyma());
-    }
-}
-
-std::optional<std::string> DotPlot::AnnaKanava(std::string_view axis) const {
-    if (axis == "x" || axis == "y") {
-        return std::to_string(axis == "x" ? KanavaX : KanavaY);
-    }
-    return "";
-}
-
-bool DotPlot::AsetaKanava(std::string_view axis, int16_t channel) {
-    if (axis == "x" || axis == "y") {
-        (axis == "x" ? KanavaX : KanavaY) = channel;
-        Piirra();
-    }
-    return true;
-}
-
-bool DotPlot::AsetaRegion(std::string_view axis, double value) {
-    if (axis == "x" || axis == "y") {
-        (axis == "x" ? kvadrantti_.KvadranttiX : kvadrantti_.KvadranttiY) = ToInt32(Rounded(value));
-        Piirra();
-    }
-    return true;
-}
-
-std::optional<std::string> DotPlot::AnnaKvadrantinKoordinaatit(std::string_view axis) const {
-    if (axis != "x" && axis != "y") {
-        return "";
-    }
-    const auto grid = static_cast<int64_t>(kGrid);
-    const int64_t value = axis == "x" ? kvadrantti_.KvadranttiX : grid - kvadrantti_.KvadranttiY;
-    return (value < 0 ? "" : " ") + std::to_string(value);
-}
-
-// The mouse: the quadrant cross comes before the regions.
-
-int16_t DotPlot::AxisAt(const PlotArea& area, PixelPoint mouse) const {
-    if (mouse.x > 0 && mouse.x < area.Left() && mouse.y > area.Top() && mouse.y < area.Bottom()) {
-        return 2;
-    }
-    return IsUnderXAxis(area, mouse) ? 1 : 0;
-}
-
-void DotPlot::PressLeft(PixelPoint mouse) {
-    if (!kvadrantti_.Osuu(PlotArea(Surface()), mouse)) {
-        PlotWindow::PressLeft(mouse);
-        return;
-    }
-    kvadrantti_.KvadranttiLiikkuu = true;
-    EleKaynnissa = true;
-    Piirra();  // without the cross, which is drawn above from now on
-    Kvadrantti::PiirraLiikkuva(Surface(), PlotArea(Surface()), mouse, tausta_.Line());
-}
-
-void DotPlot::Kuva_MouseMove(const MouseEvent& mouse) {
-    PlotWindow::Kuva_MouseMove(mouse);
-    if (kvadrantti_.KvadranttiLiikkuu) {
-        Kvadrantti::PiirraLiikkuva(Surface(), PlotArea(Surface()), {mouse.x, mouse.y},
-                                   tausta_.Line());
-    }
-}
-
-void DotPlot::Kuva_MouseUp(const MouseEvent& mouse) {
-    if (!kvadrantti_.KvadranttiLiikkuu) {
-        PlotWindow::Kuva_MouseUp(mouse);
-        return;
-    }
-    Surface().SetAutoRedraw(true);
-    kvadrantti_.Pudota(PlotArea(Surface()), {mouse.x, mouse.y});
-    EleKaynnissa = false;
-    Piirra();
-}
-
-void DotPlot::Kuva_MouseLost() {
-    kvadrantti_.KvadranttiLiikkuu = false;
-    PlotWindow::Kuva_MouseLost();
+    view_.DrawFastMark(area);
+    PiirraXOtsikko(Surface(), area, file.Channels(axes_(1)).Name);
+    PiirraYOtsikko(Surface(), area, file.Channels(axes_(2)).Name);
+    quadrant_.Piirra(area);
 }
 
 void DotPlot::RegionMuuttui(int16_t slot) {
     TarkistaMonikulmio(slot);
+}
+
+// The mouse: the quadrant cross comes before the regions.
+
+void DotPlot::PressRight(PixelPoint mouse) {
+    if (OnkoYAkselilla(Area(), mouse)) {
+        axes_.Valitse(2);
+    } else if (OnkoXAkselilla(Area(), mouse)) {
+        axes_.Valitse(1);
+    } else {
+        ShowMenu();
+    }
+}
+
+void DotPlot::PressLeft(const MouseEvent& mouse) {
+    const PixelPoint place{mouse.x, mouse.y};
+    if (File() != nullptr && !quadrant_.Tartu(Area(), place)) {
+        regions_->Tartu(place);
+    }
+}
+
+void DotPlot::Moved(const MouseEvent& mouse) {
+    const PixelPoint place{mouse.x, mouse.y};
+    if (!quadrant_.Liiku(Area(), place)) {
+        regions_->Liiku(place);
+    }
+}
+
+void DotPlot::Released(PixelPoint mouse) {
+    if (!quadrant_.Paasta(Area(), mouse)) {
+        regions_->Paasta(mouse);
+    }
+}
+
+void DotPlot::MouseLost() {
+    if (quadrant_.Risti().KvadranttiLiikkuu) {
+        quadrant_.Keskeyta();
+    } else {
+        regions_->Keskeyta();
+    }
+}
+
+// The pop-up menu.
+
+std::vector<WindowMenuItem> DotPlot::Items() {
+    return {statistics_.Item(),
+            quadrant_.Item(),
+            density_.Item(),
+            Erotin(),
+            regions_->LinesItem(),
+            regions_->OnlyHereItem(),
+            dots_.ColoursItem(),
+            Erotin(),
+            CopyItem("Copy to clipboard (CTRL-C)"),
+            SaveImageItem("Save as .BMP..."),
+            Erotin(),
+            InvertItem(),
+            dots_.SizeItem(),
+            view_.FastDrawItem(),
+            Erotin(),
+            {"Save data as .TXT...", [this] { SaveData(); }, File() != nullptr},
+            Erotin(),
+            page_.Item()};
+}
+
+void DotPlot::SaveData() {
+    const std::string path = KysyTallennuspaikka(
+        Main().Services().dialogs, {"Save the data", "TXT files (tab delimited) (*.TXT)|*.txt"});
+    if (path.empty()) {
+        return;
+    }
+    const std::string failure = TalletaTapahtumat(UsedData(*File(), 1), path);
+    if (!failure.empty()) {
+        Main().Services().dialogs.Message(failure, "Save the data");
+    }
+}
+
+// The settings.
+
+void DotPlot::AddKeys(SheetTable& keys) {
+    AddPlaceKeys(keys);
+    AddSizeKeys(keys);
+    AddFileKey(keys);
+    axes_.AddKeys(keys);
+    view_.AddShowKey(keys);
+    quadrant_.AddKeys(keys);
+    density_.AddKeys(keys);
+    regions_->AddKeys(keys);
+    view_.AddFastDrawKey(keys);
+    AddBackgroundKey(keys);
+    dots_.AddColoursKey(keys);
+    dots_.AddSizeKey(keys);
+    page_.AddWindowKey(keys);
+    page_.AddStatisticsKey(keys);
+    constexpr int kItems = 10;
+    statistics_.AddKeys(keys, kItems);
+}
+
+void DotPlot::TakeBackground(uint8_t shade) {
+    Background().Harmaa = shade;
+    Background().MustaTausta = shade != 0;
 }
 
 }  // namespace tessarin

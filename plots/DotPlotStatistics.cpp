@@ -5,12 +5,12 @@
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "plots/DotPlot.h"
-#include "plots/StatisticsTable.h"
+#include "windows/StatisticsTable.h"
 
 namespace tessarin {
 namespace {
 
-const TilastoRivi* Area(const Tilastot& tilastot, std::string_view area) {
+const TilastoRivi* RowOf(const Tilastot& tilastot, std::string_view area) {
     if (area == "ul") {
         return &tilastot.KvadranttiYV;
     }
@@ -61,30 +61,31 @@ std::vector<std::string> Values(const TilastoRivi& row) {
 
 }  // namespace
 
-PlotData DotPlot::UsedData(const Tiedosto& file, int32_t step) const {
-    return {file, KanavaX, KanavaY, NaytettavaPopulaatio, step};
+std::vector<TilastoValinta> DotPlot::TilastonValinnat() const {
+    return TilastoValinnat({"Number", "% of Vis", "XMean", "YMean", "XGeoMean", "YGeoMean"});
 }
 
-void DotPlot::ComputeStatistics(const Tiedosto& file) {
-    const PlotData data = UsedData(file, nopea_.PiirtoVali);
+void DotPlot::LaskeTilasto(const Tiedosto& file) {
+    const PlotData data = UsedData(file, view_.Vali());
     LaskeTilastot(data, tilastot_);
-    if (kvadrantti_.KvadranttiKaytossa) {
-        LaskeKvadrantit(data, kvadrantti_, tilastot_);
+    if (quadrant_.Risti().KvadranttiKaytossa) {
+        LaskeKvadrantit(data, quadrant_.Risti(), tilastot_);
     }
 }
 
-GridTable DotPlot::TableOf(const Tiedosto& file, bool copy) const {
-    StatisticsTable table(*tilasto_.Ikkuna(), kHeads);
+GridTable DotPlot::TilastonTaulukko(const Tiedosto& file, const Statistics& window,
+                                    bool copy) const {
+    StatisticsTable table(window, kHeads);
     table.AddHeaders(file, copy);
-    table.AddColumnHeads(nopea_.FastDraw ? "FAST DRAW" : "");
+    table.AddColumnHeads(view_.Nopea().FastDraw ? "FAST DRAW" : "");
     table.AddValues("Visible", Values(tilastot_.Rivit[0]));
     for (int16_t slot = 1; slot <= kPopulationSlots; ++slot) {
-        if (OnkoTilastoRivi(slot, KanavaX, KanavaY)) {
+        if (OnkoTilastoRivi(slot, axes_(1), axes_(2))) {
             table.AddValues(Populaatiot(slot).Name,
                             Values(tilastot_.Rivit[static_cast<std::size_t>(slot)]));
         }
     }
-    if (kvadrantti_.KvadranttiKaytossa) {
+    if (quadrant_.Risti().KvadranttiKaytossa) {
         table.AddEmptyRow();
         table.AddValues("Upper Left", Values(tilastot_.KvadranttiYV));
         table.AddValues("Upper Right", Values(tilastot_.KvadranttiYO));
@@ -94,9 +95,8 @@ GridTable DotPlot::TableOf(const Tiedosto& file, bool copy) const {
     return table.Take();
 }
 
-std::optional<double> DotPlot::AnnaStatistiikka(std::string_view area,
-                                                std::string_view kind) const {
-    const TilastoRivi* row = Area(tilastot_, area);
+std::optional<double> DotPlot::TilastonLuku(std::string_view area, std::string_view kind) const {
+    const TilastoRivi* row = RowOf(tilastot_, area);
     return row == nullptr ? std::nullopt : Value(*row, kind);
 }
 

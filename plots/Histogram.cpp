@@ -1,165 +1,181 @@
 #include "plots/Histogram.h"
 
-#include <algorithm>
-
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "mainwindow/PaaIkkuna.h"
-#include "mainwindow/WindowList.h"
 #include "plots/Axes.h"
-#include "plots/HistogramBars.h"
+#include "plots/HistogramFollowers.h"
+#include "plots/MarkerGesture.h"
 #include "plots/MarkerMembership.h"
 #include "plots/MarkerOutlines.h"
 
 namespace tessarin {
 namespace {
 
-void RedrawWindows(std::initializer_list<std::string_view> types) {
-    for (int16_t id = 1; id <= MaxWindows; ++id) {
-        const auto window = IkkunaPaikassa(id);
-        if (window != nullptr &&
-            std::find(types.begin(), types.end(), Ikkunat(id).Type) != types.end()) {
-            window->Piirra();
-        }
-    }
-}
+constexpr FrameKind kFrame{.emptyTitle = "Histogram - No File",
+                           .fileTitle = "Histogram - ",
+                           .imageFilter = "BMP files (*.BMP)|*.BMP",
+                           .sizeGroup = "Histogram",
+                           .drawsWhileLoading = true,
+                           .thinsWhileResized = false};
+
+constexpr RegionKind kMarkers{.prefix = "Histo-", .word = "marker", .transparent = true};
 
 }  // namespace
 
 Histogram::Histogram(PaaIkkuna& main)
-    : PlotWindow(main,
-                 {"Histogram", "marker", "BMP files (*.BMP)|*.BMP", Items(), OletusKokoHistogram}),
+    : FrameWindow(main, kFrame),
+      regions_(RegionPart::Make<MarkkeriEle>(*this, *this, kMarkers)),
       HistoRivit(kPopulationSlots + 1) {}
 
-void Histogram::ReplaceMissingChannels(const Tiedosto& file) {
-    if (KanavaX < 1 || KanavaX > file.ChannelCount) {
-        KanavaX = 1;
-    }
+void Histogram::UnloadWindow() {
+    regions_->Unohda();
+    statistics_.Sulje();
+    FrameWindow::UnloadWindow();
+    PiirraHistogrammienSeuraajat();
 }
 
-void Histogram::DrawPlot(const Tiedosto& file, const PlotArea& area) {
-    PiirraXOtsikko(Surface(), area, file.Channels(KanavaX).Name);
-    PiirraPylvaat(Surface(), area, Histo, {Korkein, Tayttovari, Reunus});
-    DrawAxes(file, area);
-    DrawMarkers(area);
-    DrawFastMark(area);
-    DrawTopOfScale(area);
-}
+// What is drawn.
 
 ChannelData Histogram::UsedData(const Tiedosto& file) const {
-    return {file, KanavaX, NaytettavaPopulaatio, nopea_.PiirtoVali};
+    return {file, axes_(1), view_.Portti(), view_.Vali()};
 }
 
-void Histogram::CountEvents(const Tiedosto& file) {
-    Histo = LaskeHistogrammi(UsedData(file), Resoluutio);
-    Tasoita(Histo, Tasoitus);
-    Korkein = YSkaala == 0 ? KorkeinPylvas(Histo) : static_cast<float>(YSkaala);
+void Histogram::Prepare() {
+    axes_.Sovita(*File());
+    view_.Sovita();
+    bins_.Laske(UsedData(*File()));
 }
 
-void Histogram::DrawAxes(const Tiedosto& file, const PlotArea& area) {
-    PiirraAkselit(Surface(), area, tausta_.Line());
-    PiirraXTikit(Surface(), area, file.Channels(KanavaX), tausta_.Line());
-}
-
-void Histogram::DrawMarkers(const PlotArea& area) {
-    if (AlueViivat) {
-        PiirraMarkkerit(Surface(), area, EleenNakyma(), tausta_.Line());
-        PiirraMarkkereidenNimet(Surface(), area, EleenNakyma());
+void Histogram::DrawPicture(const PlotArea& area) {
+    const Kanava& channel = File()->Channels(axes_(1));
+    const Rgb line = Background().Line();
+    PiirraXOtsikko(Surface(), area, channel.Name);
+    bins_.PiirraPalkit(area, Reunus);
+    PiirraAkselit(Surface(), area, line);
+    PiirraXTikit(Surface(), area, channel, line);
+    if (regions_->OnkoViivat()) {
+        PiirraMarkkerit(Surface(), area, regions_->Nakyma(), line);
+        PiirraMarkkereidenNimet(Surface(), area, regions_->Nakyma());
     }
+    view_.DrawFastMark(area);
+    bins_.PiirraHuippu(area);
 }
 
-void Histogram::DrawTopOfScale(const PlotArea& area) {
-    PiirraYSkaala(Surface(), area, " " + NumberText(Int(static_cast<double>(Korkein))));
-}
-
-// Windows that take their data from histograms follow what was drawn here.
-void Histogram::RedrawFollowers() {
-    RedrawWindows({"Overlay Histogram", "Mirror Histogram"});
-}
-
-void Histogram::UnloadWindow() {
-    PlotWindow::UnloadWindow();
-    RedrawWindows({"Overlay Histogram"});
-}
-
-std::optional<std::string> Histogram::AnnaKanava(std::string_view axis) const {
-    return axis == "x" ? std::to_string(KanavaX) : "";
-}
-
-bool Histogram::AsetaKanava(std::string_view axis, int16_t channel) {
-    if (axis == "x") {
-        KanavaX = channel;
-    }
-    Piirra();
-    return true;
-}
-
-int16_t Histogram::AxisAt(const PlotArea& area, PixelPoint mouse) const {
-    return IsUnderXAxis(area, mouse) ? 1 : 0;
+void Histogram::FinishRedraw() {
+    statistics_.PaivitaStatistiikka();
+    PiirraHistogrammienSeuraajat();
 }
 
 void Histogram::RegionMuuttui(int16_t slot) {
     TarkistaMarkkeri(slot);
 }
 
+void Histogram::PressRight(PixelPoint mouse) {
+    if (OnkoXAkselilla(Area(), mouse)) {
+        axes_.Valitse(1);
+    } else {
+        ShowMenu();
+    }
+}
+
 // What other windows and tools ask of the bins.
 
 Kanava Histogram::Channel() const {
     const Tiedosto* file = File();
-    const bool has = file != nullptr && KanavaX >= 1 && KanavaX <= file->ChannelCount;
-    return has ? file->Channels(KanavaX) : Kanava{};
+    const bool has = file != nullptr && axes_(1) >= 1 && axes_(1) <= file->ChannelCount;
+    return has ? file->Channels(axes_(1)) : Kanava{};
 }
 
-std::optional<int32_t> Histogram::LahetaMax() const {
-    return Channel().Range;
-}
-
-std::optional<bool> Histogram::LahetaLog() const {
-    return Channel().IsLog;
-}
-
-std::optional<std::string> Histogram::LahetaNimi() const {
-    return Channel().Name;
-}
-
-std::size_t Histogram::BinAt(float grid) const {
-    const double last = static_cast<double>(Histo.size()) - 1;
-    const double bin = Int(static_cast<double>(grid) / kGrid * Resoluutio);
-    return static_cast<std::size_t>(std::clamp(bin, 0.0, last));
-}
-
-std::optional<int32_t> Histogram::AnnaHistonKorkeinKohta(std::string_view mode,
-                                                         int16_t marker) const {
-    if (Histo.empty() || marker < 1 || marker > MaxPopulations) {
+int32_t Histogram::AnnaHistonKorkeinKohta(std::string_view mode, int16_t marker) const {
+    const std::span<const double> bins = bins_.Palkit();
+    if (bins.empty() || marker < 1 || marker > MaxPopulations) {
         return 0;
     }
     const Populaatio& place = Populaatiot(marker);
-    const std::size_t last = BinAt(place.X[2]);
+    const std::size_t last = bins_.BinAt(place.X[2]);
     double highest = 0;
     std::size_t bin = 0;
-    for (std::size_t i = BinAt(place.X[1]); i <= last; ++i) {
-        if (Histo[i] > highest) {
-            highest = Histo[i];
+    for (std::size_t i = bins_.BinAt(place.X[1]); i <= last; ++i) {
+        if (bins[i] > highest) {
+            highest = bins[i];
             bin = i;
         }
     }
     if (mode == "paikka") {
-        return ToInt32(Int(kGrid * static_cast<double>(bin) / Resoluutio));
+        return ToInt32(Int(kGrid * static_cast<double>(bin) / bins_.Bins()));
     }
     if (mode == "abskorkeus") {
         return ToInt32(Rounded(highest));
     }
-    return mode == "suhtkorkeus" ? ToInt32(Rounded(kGrid * highest / static_cast<double>(Korkein)))
-                                 : 0;
+    return mode == "suhtkorkeus"
+               ? ToInt32(Rounded(kGrid * highest / static_cast<double>(bins_.Huippu())))
+               : 0;
 }
 
-std::optional<int32_t> Histogram::AnnaHistonKorkeus(int32_t& x) const {
-    x = ToInt32(Int(static_cast<double>(Resoluutio) * x / kGrid));
-    if (x < 0 || static_cast<std::size_t>(x) >= Histo.size()) {
+int32_t Histogram::AnnaHistonKorkeus(int32_t& x) const {
+    const std::span<const double> bins = bins_.Palkit();
+    x = ToInt32(Int(static_cast<double>(bins_.Bins()) * x / kGrid));
+    if (x < 0 || static_cast<std::size_t>(x) >= bins.size()) {
         return 0;
     }
-    const double height = Histo[static_cast<std::size_t>(x)] / static_cast<double>(Korkein);
+    const double height = bins[static_cast<std::size_t>(x)] / static_cast<double>(bins_.Huippu());
     return ToInt32(Rounded(height * kGrid));
+}
+
+// The pop-up menu.
+
+std::vector<WindowMenuItem> Histogram::Items() {
+    return {statistics_.Item(),
+            bins_.ScaleItem(),
+            bins_.SmoothingItem(),
+            Erotin(),
+            regions_->LinesItem(),
+            regions_->OnlyHereItem(),
+            Erotin(),
+            CopyItem("Copy to clipboard (CTLR-C)"),
+            SaveImageItem("Save as .BMP..."),
+            Erotin(),
+            bins_.ColorItem(),
+            InvertItem(),
+            FlagItem(Reunus, "Don't draw outline", "Draw outline"),
+            view_.FastDrawItem(),
+            Erotin(),
+            {"Copy histogram to clipboard", [this] { CopyBins(); }, File() != nullptr},
+            Erotin(),
+            page_.Item()};
+}
+
+void Histogram::CopyBins() {
+    std::string text;
+    const std::span<const double> bins = bins_.Palkit();
+    for (std::size_t bin = 1; bin < bins.size(); ++bin) {
+        text += NumberText(bins[bin]);
+        text += '\n';
+    }
+    Clipboard& clipboard = Main().Services().clipboard;
+    clipboard.Clear();
+    clipboard.SetText(text);
+}
+
+// The settings.
+
+void Histogram::AddKeys(SheetTable& keys) {
+    AddPlaceKeys(keys);
+    AddSizeKeys(keys);
+    AddFileKey(keys);
+    axes_.AddKeys(keys);
+    view_.AddShowKey(keys);
+    bins_.AddColorKeys(keys);
+    keys.Add(Lippuavain("border.enabled", Reunus));
+    bins_.AddScaleKeys(keys);
+    regions_->AddKeys(keys);
+    view_.AddFastDrawKey(keys);
+    AddBackgroundKey(keys);
+    page_.AddWindowKey(keys);
+    page_.AddStatisticsKey(keys);
+    constexpr int kItems = 9;
+    statistics_.AddKeys(keys, kItems);
 }
 
 }  // namespace tessarin

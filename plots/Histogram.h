@@ -2,87 +2,90 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "plots/HistogramBins.h"
+#include "plots/BinnedChannel.h"
 #include "plots/HistogramStatistics.h"
-#include "plots/MarkerGesture.h"
-#include "plots/PlotWindow.h"
+#include "windows/ChannelAxes.h"
+#include "windows/FileView.h"
+#include "windows/FrameWindow.h"
+#include "windows/PagePart.h"
+#include "windows/RegionPart.h"
+#include "windows/StatisticsPart.h"
 
 namespace tessarin {
 
-class Histogram : public PlotWindow {
+class Histogram : public FrameWindow,
+                  private BinOwner,
+                  private RegionSite,
+                  private StatisticsContent {
   public:
     explicit Histogram(PaaIkkuna& main);
 
-    // The window contract.
-    std::optional<std::string> AnnaKanava(std::string_view axis) const override;
-    bool AsetaKanava(std::string_view axis, int16_t channel) override;
-    std::optional<double> AnnaStatistiikka(std::string_view area,
-                                           std::string_view kind) const override;
-    std::optional<std::vector<double>> LahetaHistogram() const override { return Histo; }
-    std::optional<int32_t> LahetaMax() const override;
-    std::optional<bool> LahetaLog() const override;
-    std::optional<std::string> LahetaNimi() const override;
-    std::optional<int16_t> LahetaKanavaID() const override { return KanavaX; }
-    std::optional<int32_t> LahetaScale() const override { return YSkaala; }
-    std::optional<int32_t> AnnaHistonKorkeinKohta(std::string_view mode,
-                                                  int16_t marker) const override;
-    std::optional<int32_t> AnnaHistonKorkeus(int32_t& x) const override;
+    void LatauksenJalkeen() override { view_.LatauksenJalkeen(); }
     void UnloadWindow() override;
 
-  private:
-    void ReplaceMissingChannels(const Tiedosto& file) override;
-    void CountEvents(const Tiedosto& file) override;
-    void DrawPlot(const Tiedosto& file, const PlotArea& area) override;
-    void DrawAxes(const Tiedosto& file, const PlotArea& area);
-    void DrawMarkers(const PlotArea& area);
-    void DrawTopOfScale(const PlotArea& area);
-    void RedrawFollowers() override;
-    bool DrawsWhileLoading() const override { return true; }
+    GateOwner* Gate() override { return &view_; }
+    ChannelOwner* Channels() override { return &axes_; }
+    StatisticsOwner* Stats() override { return &statistics_; }
+    StatisticsTableOwner* StatsTable() override { return &statistics_; }
+    BinOwner* Bins() override { return this; }
+    PageItem* Page() override { return &page_; }
 
-    RegionEle& Ele() override { return ele_; }
-    RegionView EleenNakyma() const override {
-        return {"Histogram", ID, KanavaX, 0, VainTaallaLuodut};
-    }
+  private:
+    // FrameWindow.
+    std::vector<WindowMenuItem> Items() override;
+    void AddKeys(SheetTable& keys) override;
+    void Prepare() override;
+    void DrawPicture(const PlotArea& area) override;
+    void FinishRedraw() override;
+    void SizeChanged(const PlotArea& before) override { regions_->KokoMuuttui(before); }
+    void PressArmed(const MouseEvent& mouse) override { regions_->Piirra(mouse); }
+    void PressRight(PixelPoint mouse) override;
+    void PressLeft(const MouseEvent& mouse) override { regions_->Tartu({mouse.x, mouse.y}); }
+    void Moved(const MouseEvent& mouse) override { regions_->Liiku({mouse.x, mouse.y}); }
+    void Released(PixelPoint mouse) override { regions_->Paasta(mouse); }
+    void MouseLost() override { regions_->Keskeyta(); }
+
+    // BinOwner.
+    std::span<const double> LahetaHistogram() const override { return bins_.Palkit(); }
+    int32_t LahetaMax() const override { return Channel().Range; }
+    bool LahetaLog() const override { return Channel().IsLog; }
+    std::string LahetaNimi() const override { return Channel().Name; }
+    int16_t LahetaKanavaID() const override { return axes_(1); }
+    int32_t LahetaScale() const override { return bins_.Skaala(); }
+    int32_t AnnaHistonKorkeinKohta(std::string_view mode, int16_t marker) const override;
+    int32_t AnnaHistonKorkeus(int32_t& x) const override;
+
+    // RegionSite.
+    RegionView Regionit() const override { return {"Histogram", ID, axes_(1)}; }
+    PlotArea Alue() const override { return Area(); }
     void RegionMuuttui(int16_t slot) override;
-    int16_t AxisAt(const PlotArea& area, PixelPoint mouse) const override;
+
+    // StatisticsContent.
+    std::vector<TilastoValinta> TilastonValinnat() const override;
+    void LaskeTilasto(const Tiedosto& file) override;
+    GridTable TilastonTaulukko(const Tiedosto& file, const Statistics& window,
+                               bool copy) const override;
+    std::optional<double> TilastonLuku(std::string_view area, std::string_view kind) const override;
 
     ChannelData UsedData(const Tiedosto& file) const;
-    void ComputeStatistics(const Tiedosto& file) override;
-    GridTable TableOf(const Tiedosto& file, bool copy) const override;
-
-    std::vector<SheetKey> Keys() override;
-    void TakeBackground(uint8_t shade) override;
-
-    // Pop-up items of its own.
-    void SetScale();
-    void SetSmoothing();
-    void AskNumber(const std::string& title, std::string_view zero, int32_t& value);
-    void ChangeColor();
-    void ToggleOutline();
-    void SetOutlineCaption();
-    void CopyBins();
-    static std::span<const PopupItem> Items();
-
     /// The channel in the window's file; one without name and range when there is no file.
     Kanava Channel() const;
-    /// The bin at a grid place, within the bins there are.
-    std::size_t BinAt(float grid) const;
+    void CopyBins();
 
-    int16_t KanavaX = 1;        // the channel
-    int32_t Resoluutio = 1024;  // number of bins
-    std::vector<double> Histo;  // counts after smoothing, bins 0 to Resoluutio; empty at first
-    int32_t Tasoitus = 2;       // smoothing width in bins, 0 for none
-    int32_t YSkaala = 0;        // top of the y scale as a count, 0 for automatic
-    float Korkein = 1;          // the top in use at the last redraw
-    Rgb Tayttovari{255, 0, 0};  // colour of the bars
-    bool Reunus = true;         // outline
-    MarkkeriEle ele_{*this};
+    FileView view_{*this};
+    ChannelAxes axes_{*this, view_, {{"x", 1}}};
+    BinnedChannel bins_{*this, 2, {255, 0, 0}};
+    bool Reunus = true;  // outline
+    std::unique_ptr<RegionPart> regions_;
+    StatisticsPart statistics_{*this, *this};
+    PagePart page_{*this};
     std::vector<HistoRivi> HistoRivit;
 };
 

@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "plots/PlotArea.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 

@@ -4,7 +4,7 @@
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "plots/Histogram.h"
-#include "plots/StatisticsTable.h"
+#include "windows/StatisticsTable.h"
 
 namespace tessarin {
 namespace {
@@ -19,17 +19,22 @@ std::vector<std::string> Values(const HistoRivi& row) {
 
 }  // namespace
 
-void Histogram::ComputeStatistics(const Tiedosto& file) {
+std::vector<TilastoValinta> Histogram::TilastonValinnat() const {
+    return TilastoValinnat({"Number", "% of vis", "XMean", "XGeoMean", "CV"});
+}
+
+void Histogram::LaskeTilasto(const Tiedosto& file) {
     LaskeHistoTilastot(UsedData(file), HistoRivit);
 }
 
-GridTable Histogram::TableOf(const Tiedosto& file, bool copy) const {
-    StatisticsTable table(*tilasto_.Ikkuna(), kHeads);
+GridTable Histogram::TilastonTaulukko(const Tiedosto& file, const Statistics& window,
+                                      bool copy) const {
+    StatisticsTable table(window, kHeads);
     table.AddHeaders(file, copy);
-    table.AddColumnHeads(nopea_.FastDraw ? "FAST DRAW" : "");
+    table.AddColumnHeads(view_.Nopea().FastDraw ? "FAST DRAW" : "");
     table.AddValues("Visible", Values(HistoRivit[0]));
     for (int16_t slot = 1; slot <= kPopulationSlots; ++slot) {
-        if (OnkoHistoRivi(slot, KanavaX)) {
+        if (OnkoHistoRivi(slot, axes_(1))) {
             table.AddValues(Populaatiot(slot).Name,
                             Values(HistoRivit[static_cast<std::size_t>(slot)]));
         }
@@ -37,8 +42,7 @@ GridTable Histogram::TableOf(const Tiedosto& file, bool copy) const {
     return table.Take();
 }
 
-std::optional<double> Histogram::AnnaStatistiikka(std::string_view area,
-                                                  std::string_view kind) const {
+std::optional<double> Histogram::TilastonLuku(std::string_view area, std::string_view kind) const {
     const auto number = ParseWholeNumber(area);
     if (!number || *number < 0 || *number > kPopulationSlots) {
         return std::nullopt;

@@ -76,7 +76,7 @@ void MarkkeriEle::Piirra(MouseButton button, PixelPoint mouse) {
     MarkkeriVeto = true;
     host_.AsetaEle(true);
     SetUnderWork({mouse.x, mouse.x, mouse.y});
-    host_.EleenPinta().SetAutoRedraw(false);
+    host_.AsetaPaalle(true);
     DrawMarker(kNewMarker);
 }
 
@@ -119,10 +119,7 @@ void MarkkeriEle::DragWhole(PixelPoint mouse, PixelPoint before) {
 
 void MarkkeriEle::ReleaseNew() {
     const int16_t slot = host_.UudenRegioninPaikka();
-    Populaatio& marker = Populaatiot(slot);
-    Store(marker, 0);
-    AloitaRegion(marker, host_.EleenNakyma(), "Histo-", slot);
-    marker.Transparent = true;
+    DefineNew(slot);
     AbandonNew();
     UusiRegionPaalla = false;
     host_.RegionMuuttui(slot);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "plots/MarkerOutlines.h"
-#include "plots/RegionGesture.h"
+#include "windows/RegionGesture.h"
 
 namespace tessarin {
 

@@ -7,8 +7,8 @@
 #include "core/Numbers.h"
 #include "core/Projektio.h"
 #include "core/WideVectors.h"
-#include "plots/PlotArea.h"
 #include "populations/Definitions.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 namespace {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "core/Populaatio.h"
-#include "plots/PlotArea.h"
-#include "plots/RegionNames.h"
-#include "plots/RegionView.h"
+#include "windows/PlotArea.h"
+#include "windows/RegionNames.h"
+#include "windows/RegionView.h"
 
 namespace tessarin {
 

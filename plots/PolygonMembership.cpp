@@ -10,7 +10,6 @@
 #include "core/Numbers.h"
 #include "core/Projektio.h"
 #include "core/WideVectors.h"
-#include "plots/PlotArea.h"
 #include "populations/Definitions.h"
 #include "populations/PolygonTest.h"
 
@@ -19,8 +18,22 @@ namespace {
 
 constexpr std::size_t kBlock = 2048;  // events whose places stay near the processor
 
+// Gives a block of events whole.
+class Everyone {
+  public:
+    std::span<const int32_t> Sift(std::size_t from, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            kept_[i] = static_cast<int32_t>(from + i + 1);
+        }
+        return {kept_.data(), count};
+    }
+
+  private:
+    std::array<int32_t, kBlock> kept_;
+};
+
 // Tells of most events outside a polygon by their values alone, so that only the others are
-// projected. Events left of it stay: at exactly the height of a corner they may be inside.
+// placed. Events left of it stay: at exactly the height of a corner they may be inside.
 class Sieve {
   public:
     Sieve(const Tiedosto& file, const Populaatio& polygon, std::span<const Kulma> corners)
@@ -74,28 +87,25 @@ class Sieve {
 
 // The grid places of one block of events, and which of them are inside.
 struct GridBlock {
-    std::array<double, kBlock> position;
+    std::array<double, kBlock> wideX;
+    std::array<double, kBlock> wideY;
     std::array<float, kBlock> x;
     std::array<float, kBlock> y;
     std::array<uint8_t, kBlock> inside;
 };
 
-void TestFile(Tiedosto& file, int16_t slot, const Populaatio& polygon,
-              std::span<const Kulma> corners) {
-    const std::span<uint8_t> members = file.Membership.OmaSarake(slot);
+template <class Sifter>
+void TestEvents(std::span<uint8_t> members, const EventPlacer& placer,
+                std::span<const Kulma> corners, Sifter& sifter) {
     std::ranges::fill(members, uint8_t{0});
-    Sieve sieve(file, polygon, corners);
     GridBlock block;
     for (std::size_t from = 0; from < members.size(); from += kBlock) {
-        const auto events = sieve.Sift(from, std::min(kBlock, members.size() - from));
+        const auto events = sifter.Sift(from, std::min(kBlock, members.size() - from));
         const std::size_t count = events.size();
-        AnnaPaikat(file, events, polygon.AxisX, kGrid, block.position);
+        placer.Place(events, kGridPlane, block.wideX, block.wideY);
         for (std::size_t i = 0; i < count; ++i) {
-            block.x[i] = static_cast<float>(block.position[i]);
-        }
-        AnnaPaikat(file, events, polygon.AxisY, kGrid, block.position);
-        for (std::size_t i = 0; i < count; ++i) {
-            block.y[i] = static_cast<float>(kGrid - block.position[i]);
+            block.x[i] = static_cast<float>(block.wideX[i]);
+            block.y[i] = static_cast<float>(block.wideY[i]);
         }
         PolygoninSisalla({block.x.data(), count}, {block.y.data(), count}, corners,
                          {block.inside.data(), count});
@@ -114,6 +124,12 @@ bool HasChannels(const Tiedosto& file, const Populaatio& polygon) {
 
 }  // namespace
 
+void TestaaMonikulmio(Tiedosto& file, int16_t slot, const EventPlacer& placer) {
+    Everyone everyone;
+    TestEvents(file.Membership.OmaSarake(slot), placer, PopulaationKulmat(Populaatiot(slot)),
+               everyone);
+}
+
 void TarkistaMonikulmio(int16_t slot) {
     const Populaatio& polygon = Populaatiot(slot);
     const std::vector<Kulma> corners = PopulaationKulmat(polygon);
@@ -122,7 +138,9 @@ void TarkistaMonikulmio(int16_t slot) {
             continue;
         }
         if (HasChannels(file, polygon)) {
-            TestFile(file, slot, polygon, corners);
+            Sieve sieve(file, polygon, corners);
+            TestEvents(file.Membership.OmaSarake(slot),
+                       ChannelPlacer(file, polygon.AxisX, polygon.AxisY), corners, sieve);
         } else {
             file.Membership.NollaaSarake(slot);
         }

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "plots/PlotArea.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 

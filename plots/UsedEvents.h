@@ -9,6 +9,13 @@
 
 namespace tessarin {
 
+/// Which events of a file a window uses.
+struct EventChoice {
+    const Tiedosto& file;
+    int16_t gate = 0;        ///< population slot, 0 for all events
+    int32_t PiirtoVali = 1;  ///< every so many events only
+};
+
 /// Gives the used events of a file in rising order, a block at a time, so that what is done with
 /// them stays near the processor. An event is used when its number is 1, 1 + step, 1 + 2 * step
 /// and so on up to `EventCount`, and it is a member of the gate.
@@ -19,6 +26,8 @@ class KaytetytTapahtumat {
     /// `gate` is a population slot or 0 for all events. The file must outlive the object.
     /// REQUIRES: step at least 1, gate 0..kPopulationSlots.
     KaytetytTapahtumat(const Tiedosto& file, int16_t gate, int32_t step);
+    explicit KaytetytTapahtumat(const EventChoice& choice)
+        : KaytetytTapahtumat(choice.file, choice.gate, choice.PiirtoVali) {}
 
     /// The next event numbers, at most kBlock; empty when there are no more.
     std::span<const int32_t> Next();

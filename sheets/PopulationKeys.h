@@ -2,21 +2,15 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
 #include "sheets/SheetKeys.h"
 
 namespace tessarin {
 
-/// The keys of a population, in the order in which a sheet holds them; corners as far as the
-/// population has any. REQUIRES: slot is 1..MaxPopulations.
-std::vector<SheetKey> Populaatioavaimet(int16_t slot);
-
-/// The keys that a line of a sheet with that key may mean: any corner that there is room for, since
-/// the line may come before the number of corners does.
-std::vector<SheetKey> PopulaationLukuavaimet(int16_t slot, std::string_view key);
-
-/// The keys of the definition in a slot. REQUIRES: slot is behind the populations' slots.
-std::vector<SheetKey> Maaritelmaavaimet(int16_t slot);
+/// The keys of the population or definition in a slot, in the order in which a sheet holds them.
+/// Lines are made of as many corners as there are; any corner that there is room for is read, since
+/// its line may come before the number of corners does.
+/// REQUIRES: slot is 1..kPopulationSlots.
+const SheetTable& Populaatioavaimet(int16_t slot);
 
 }  // namespace tessarin

@@ -20,6 +20,7 @@
 #include "sheets/PackageFiles.h"
 #include "sheets/PopulationKeys.h"
 #include "sheets/SheetKeys.h"
+#include "sheets/SheetSections.h"
 #include "sheets/SheetText.h"
 
 namespace tessarin {
@@ -70,10 +71,8 @@ class SheetLoader {
             } else if (first == "window") {
                 TakeWindow(line, text);
                 main_.Services().loop.Yield();
-            } else if (first == "printview") {
-                TakeCompanion(main_.Kumppanit().preview, line, text);
-            } else if (first == "fileinfo") {
-                TakeCompanion(main_.Kumppanit().fileInfo, line, text);
+            } else if (SheetSection* section = EtsiOsa(main_.Kumppanit(), first)) {
+                TakeSection(*section, line, text);
             }
         }
     }
@@ -106,8 +105,7 @@ class SheetLoader {
         const int slot = line.Number(2);
         if (slot >= 1 && slot <= MaxPopulations) {
             Define(static_cast<int16_t>(slot));
-            const std::string_view key = line.KeyFrom(3);
-            LueAvain(PopulaationLukuavaimet(static_cast<int16_t>(slot), key), key, line.value);
+            Populaatioavaimet(static_cast<int16_t>(slot)).Take(line.KeyFrom(3), line.value);
         }
     }
 
@@ -115,7 +113,7 @@ class SheetLoader {
         const int slot = line.Number(2);
         if (slot > MaxPopulations && slot <= kPopulationSlots) {
             Define(static_cast<int16_t>(slot));
-            LueAvain(Maaritelmaavaimet(static_cast<int16_t>(slot)), line.KeyFrom(3), line.value);
+            Populaatioavaimet(static_cast<int16_t>(slot)).Take(line.KeyFrom(3), line.value);
         }
     }
 
@@ -193,16 +191,11 @@ class SheetLoader {
         CurrentFile = file;
     }
 
-    void TakeCompanion(SheetCompanion* companion, const SheetLine& line, const std::string& text) {
-        if (companion == nullptr) {
-            return;
-        }
-        if (line.KeyFrom(2) == "visible") {
-            if (line.value == "1" || line.value == "0") {
-                companion->AsetaNakyvyys(line.value == "1");
-            }
-        } else {
-            companion->LoadInfo(text);
+    static void TakeSection(SheetSection& section, const SheetLine& line, const std::string& text) {
+        if (line.KeyFrom(2) != "visible") {
+            section.LoadInfo(text);
+        } else if (line.value == "1" || line.value == "0") {
+            section.AsetaNakyvyys(line.value == "1");
         }
     }
 
@@ -261,8 +254,8 @@ bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
         TarkistaPopulaatiot();
         main.PiirraKaikki();
     }
-    if (FileInfoView* info = main.Kumppanit().fileInfo; info != nullptr && info->OnkoNakyvissa()) {
-        info->FileInfonAsetusLatauksenJalkeen();
+    for (SheetSection* section : main.Kumppanit().sections) {
+        section->SheetLoaded();
     }
     if (!loader.LeftOut().empty()) {
         main.Huomauta(loader.LeftOut());

@@ -8,6 +8,7 @@
 #include "core/Numbers.h"
 #include "core/Text.h"
 #include "sheets/SheetKeys.h"
+#include "sheets/SheetSections.h"
 
 namespace tessarin {
 namespace {
@@ -55,10 +56,11 @@ std::vector<std::string> DataLines(const std::string& text) {
 
 bool IsSheetLine(const std::string& line) {
     static constexpr const char* kWords[] = {"general", "population", "definition", "file",
-                                             "window",  "printview",  "fileinfo"};
+                                             "window"};
     const SheetLine parts(line);
-    return line.find(':') != std::string::npos &&
-           std::find(std::begin(kWords), std::end(kWords), parts.Field(1)) != std::end(kWords);
+    const bool known =
+        std::find(std::begin(kWords), std::end(kWords), parts.Field(1)) != std::end(kWords);
+    return line.find(':') != std::string::npos && (known || OnkoOsa(parts.Field(1)));
 }
 
 bool IsNewer(const std::vector<std::string>& lines) {

@@ -11,6 +11,7 @@
 #include "mainwindow/WindowList.h"
 #include "sheets/PackageFiles.h"
 #include "sheets/PopulationKeys.h"
+#include "sheets/SheetSections.h"
 
 namespace tessarin {
 namespace {
@@ -57,16 +58,14 @@ void AddPopulations(SheetBuilder& sheet) {
     sheet.Value("general.maxnumberofpopulations", std::to_string(MaxPopulations));
     for (int16_t slot = 1; slot <= MaxPopulations; ++slot) {
         if (Populaatiot(slot).Defined) {
-            sheet.Keys("population." + std::to_string(slot) + ".",
-                       KirjoitaAvaimet(Populaatioavaimet(slot)));
+            sheet.Keys("population." + std::to_string(slot) + ".", Populaatioavaimet(slot).Lines());
         }
     }
     sheet.Section("Definitions");
     sheet.Value("general.maxnumberofdefinitions", std::to_string(MaxDefinitions));
     for (int16_t slot = MaxPopulations + 1; slot <= kPopulationSlots; ++slot) {
         if (Populaatiot(slot).Defined) {
-            sheet.Keys("definition." + std::to_string(slot) + ".",
-                       KirjoitaAvaimet(Maaritelmaavaimet(slot)));
+            sheet.Keys("definition." + std::to_string(slot) + ".", Populaatioavaimet(slot).Lines());
         }
     }
 }
@@ -96,25 +95,21 @@ void AddWindows(SheetBuilder& sheet) {
         }
         const std::string prefix = "window." + std::to_string(id) + ".";
         sheet.Value(prefix + "type", Ikkunat(id).Type);
-        if (const auto lines = window->SaveInfo()) {
-            sheet.Keys(prefix, *lines);
-        }
+        sheet.Keys(prefix, window->SaveInfo());
     }
 }
 
 // The windows that there is one of at most.
-void AddCompanions(SheetBuilder& sheet, const Companions& companions) {
-    const auto add = [&sheet](const std::string& key, const SheetCompanion* window, bool always) {
-        const bool visible = window != nullptr && window->OnkoNakyvissa();
-        sheet.Value(key + ".visible", visible ? "1" : "0");
-        if (visible || (window != nullptr && always)) {
-            sheet.Keys(key + ".", window->SaveInfo());
+void AddSections(SheetBuilder& sheet, const Companions& companions) {
+    for (const SheetSectionName& name : kSheetSections) {
+        const std::string key(name.key);
+        const SheetSection* section = EtsiOsa(companions, key);
+        sheet.Section(name.title);
+        sheet.Value(key + ".visible", section != nullptr && section->OnkoNakyvissa() ? "1" : "0");
+        if (section != nullptr) {
+            sheet.Keys(key + ".", section->SaveInfo());
         }
-    };
-    sheet.Section("Print view");
-    add("printview", companions.preview, true);
-    sheet.Section("File info");
-    add("fileinfo", companions.fileInfo, false);
+    }
 }
 
 }  // namespace
@@ -131,7 +126,7 @@ std::string NakymaTekstina(const PaaIkkuna& main, NakymaLaji kind) {
     AddPopulations(sheet);
     AddFiles(sheet, kind);
     AddWindows(sheet);
-    AddCompanions(sheet, main.Kumppanit());
+    AddSections(sheet, main.Kumppanit());
     sheet.Line("");
     return sheet.Take();
 }

@@ -4,8 +4,8 @@
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/PopulationEvaluation.h"
+#include "core/Projektio.h"
 #include "mainwindow/PaaIkkuna.h"
-#include "plots/PlotArea.h"
 #include "tools/ToolCommands.h"
 #include "tools/ToolRun.h"
 

@@ -6,10 +6,10 @@
 
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
+#include "core/Projektio.h"
 #include "core/Text.h"
 #include "mainwindow/FileNavigation.h"
 #include "mainwindow/WindowList.h"
-#include "plots/PlotArea.h"
 #include "tools/ToolLine.h"
 #include "tools/ToolRun.h"
 
@@ -49,10 +49,10 @@ struct Query {
     ToolValue (*answer)(const Question& q);
 };
 
-// What a kind of window has; a fault for a kind that lacks it.
-template <class T>
-T Must(std::optional<T> answer) {
-    return answer ? std::move(*answer) : throw ToolFault();
+// A role of a window; a fault for a kind that lacks it.
+template <class Role>
+Role& Must(Role* role) {
+    return role != nullptr ? *role : throw ToolFault();
 }
 
 ToolValue Number(double number) {
@@ -69,9 +69,7 @@ ToolValue Yes(bool yes) {
 
 // A statistic that the window does not know reads as 0.
 double Statistic(const Question& q, const std::string& area, const std::string& kind) {
-    const auto window = q.Window();
-    Must(window->OnkoStatistiikkaKaytossa());
-    return window->AnnaStatistiikka(area, kind).value_or(0);
+    return Must(q.Window()->Stats()).AnnaStatistiikka(area, kind).value_or(0);
 }
 
 ToolValue Quadrant(const Question& q) {
@@ -84,7 +82,7 @@ ToolValue Quadrant(const Question& q) {
 }
 
 ToolValue QuadrantPlace(const Question& q, std::string_view axis) {
-    return Number(Int(NumberOf(Must(q.Window()->AnnaKvadrantinKoordinaatit(axis)))));
+    return Number(Int(NumberOf(Must(q.Window()->Quadrant()).AnnaKvadrantinKoordinaatit(axis))));
 }
 
 bool IsUsed(const Question& q) {
@@ -92,28 +90,27 @@ bool IsUsed(const Question& q) {
 }
 
 ToolValue HasQuadrant(const Question& q) {
-    return Yes(IsUsed(q) && Ikkunat(q.Id()).Type == "DotPlot" &&
-               q.Window()->OnkoKvadranttiKaytossa().value_or(false));
+    const QuadrantOwner* owner = IsUsed(q) ? q.Window()->Quadrant() : nullptr;
+    return Yes(owner != nullptr && owner->OnkoKvadranttiKaytossa());
 }
 
 ToolValue HasStatistics(const Question& q) {
-    const std::string& type = Ikkunat(q.Id()).Type;
-    const bool kind = type == "DotPlot" || type == "Histogram" || type == "Histogram Modeller";
-    return Yes(IsUsed(q) && kind && q.Window()->OnkoStatistiikkaKaytossa().value_or(false));
+    const StatisticsOwner* owner = IsUsed(q) ? q.Window()->Stats() : nullptr;
+    return Yes(owner != nullptr && owner->KertooAuki() && owner->OnkoStatistiikkaKaytossa());
 }
 
 ToolValue HighestBin(const Question& q, std::string_view mode) {
     return Number(
-        Must(q.Window()->AnnaHistonKorkeinKohta(mode, SlotOf(q.Word(6), MaxPopulations))));
+        Must(q.Window()->Bins()).AnnaHistonKorkeinKohta(mode, SlotOf(q.Word(6), MaxPopulations)));
 }
 
 ToolValue BinHeight(const Question& q) {
     int32_t place = ToInt32(Rounded(NumberOf(q.Word(5))));
-    return Number(Must(q.Window()->AnnaHistonKorkeus(place)));
+    return Number(Must(q.Window()->Bins()).AnnaHistonKorkeus(place));
 }
 
 ToolValue Table(const Question& q, std::string_view format) {
-    return Text(Must(q.Window()->AnnaKokoStatistiikka(format)));
+    return Text(Must(q.Window()->StatsTable()).AnnaKokoStatistiikka(format));
 }
 
 ToolValue Corner(const Question& q, bool y) {
@@ -162,9 +159,9 @@ const std::vector<Query>& WindowQueries() {
         {ToolPattern("@.w|window.N.folder"),
          [](const Question& q) { return Text(q.WindowFile().Folder); }},
         {ToolPattern("@.w|window.N.axis.x"),
-         [](const Question& q) { return Text(Must(q.Window()->AnnaKanava("x"))); }},
+         [](const Question& q) { return Text(Must(q.Window()->Channels()).AnnaKanava("x")); }},
         {ToolPattern("@.w|window.N.axis.y"),
-         [](const Question& q) { return Text(Must(q.Window()->AnnaKanava("y"))); }},
+         [](const Question& q) { return Text(Must(q.Window()->Channels()).AnnaKanava("y")); }},
         {ToolPattern("@.w|window.N.population.P.S"),
          [](const Question& q) { return Number(Statistic(q, q.Word(4), q.Word(5))); }},
         {ToolPattern("@.w|window.N.quadrant.position.x"),
@@ -180,7 +177,7 @@ const std::vector<Query>& WindowQueries() {
         {ToolPattern("@.w|window.N.histogram.height.X"), BinHeight},
         {ToolPattern("@.w|window.N.modeller.height.X"),
          [](const Question& q) {
-             return Number(Must(q.Window()->AnnaSummanKorkeus(NumberOf(q.Word(5)))));
+             return Number(Must(q.Window()->Curves()).AnnaSummanKorkeus(NumberOf(q.Word(5))));
          }},
         {ToolPattern("@.w|window.N.exists"), [](const Question& q) { return Yes(IsUsed(q)); }},
         {ToolPattern("@.w|window.N.statistics.exists"), HasStatistics},

@@ -5,11 +5,11 @@
 #include "core/Bitmap.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
+#include "core/Projektio.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/FileNavigation.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
-#include "plots/PlotArea.h"
 #include "tools/ToolCommands.h"
 #include "tools/ToolRun.h"
 
@@ -31,11 +31,17 @@ struct Call {
     Twips Size() const { return {ToInt32(Rounded(Number()))}; }
 };
 
-// A kind of window that lacks an operation cannot carry the line out.
-void Must(bool has) {
-    if (!has) {
+void Must(bool done) {
+    if (!done) {
         throw ToolFault();
     }
+}
+
+// A kind of window that lacks a role cannot carry the line out.
+template <class Role>
+Role& Must(Role* role) {
+    Must(role != nullptr);
+    return *role;
 }
 
 void SaveImage(const Call& call) {
@@ -76,12 +82,20 @@ void MoveFile(const Call& call) {
 template <class Operation>
 void Choose(const Call& call, std::string_view on, std::string_view off, Operation operation) {
     if (call.Text() == "true" || call.Text() == "false") {
-        Must(operation(call.Text() == "true" ? on : off));
+        operation(call.Text() == "true" ? on : off);
     }
 }
 
 void MoveCurve(const Call& call, std::string_view what) {
-    Must(call.window.SiirraKayraa(what, call.Slot(3), call.Text()));
+    Must(Must(call.window.Curves()).SiirraKayraa(what, call.Slot(3), call.Text()));
+}
+
+void MakeCurve(const Call& call, std::string_view what) {
+    Must(Must(call.window.Curves()).LuoTaiPoista(what, call.Slot(3), call.Text()));
+}
+
+void SetChannel(const Call& call, std::string_view axis) {
+    Must(call.window.Channels()).AsetaKanava(axis, SlotOf(call.Text(), INT16_MAX));
 }
 
 struct WindowCommand {
@@ -90,63 +104,68 @@ struct WindowCommand {
 };
 
 void AddPlotCommands(std::vector<WindowCommand>& to) {
-    to.insert(
-        to.end(),
-        {{ToolPattern("w|window.N.saveimage"), SaveImage},
-         {ToolPattern("w|window.N.file.move"), MoveFile},
-         {ToolPattern("w|window.N.file.load"), LoadFile},
-         {ToolPattern("w|window.N.drawmode"),
-          [](const Call& c) { Must(c.window.AsetaPiirtoMoodi(c.Text())); }},
-         {ToolPattern("w|window.N.axis.x"),
-          [](const Call& c) { Must(c.window.AsetaKanava("x", SlotOf(c.Text(), INT16_MAX))); }},
-         {ToolPattern("w|window.N.axis.y"),
-          [](const Call& c) { Must(c.window.AsetaKanava("y", SlotOf(c.Text(), INT16_MAX))); }},
-         {ToolPattern("w|window.N.size.x"),
-          [](const Call& c) { c.Frame().SetOuterSize(c.Size(), c.Frame().OuterHeight()); }},
-         {ToolPattern("w|window.N.size.y"),
-          [](const Call& c) { c.Frame().SetOuterSize(c.Frame().OuterWidth(), c.Size()); }},
-         {ToolPattern("w|window.N.position.x"),
-          [](const Call& c) { c.Frame().SetPlace(c.Size(), c.Frame().Top()); }},
-         {ToolPattern("w|window.N.position.y"),
-          [](const Call& c) { c.Frame().SetPlace(c.Frame().Left(), c.Size()); }},
-         {ToolPattern("w|window.N.statistics.visible"),
-          [](const Call& c) {
-              Choose(c, "open", "close",
-                     [&c](std::string_view w) { return c.window.AvaaTaiSuljeStatistics(w); });
-          }},
-         {ToolPattern("w|window.N.statistics.position.x"),
-          [](const Call& c) { Must(c.window.LiikutaStatistiikkaLaatikkoa("x", c.Size().count)); }},
-         {ToolPattern("w|window.N.statistics.position.y"),
-          [](const Call& c) { Must(c.window.LiikutaStatistiikkaLaatikkoa("y", c.Size().count)); }},
-         {ToolPattern("w|window.N.quadrant.visible"),
-          [](const Call& c) {
-              Choose(c, "open", "close",
-                     [&c](std::string_view w) { return c.window.NaytaTaiPiilotaKvadrantti(w); });
-          }},
-         {ToolPattern("w|window.N.quadrant.position.x"),
-          [](const Call& c) { Must(c.window.AsetaRegion("x", c.Number())); }},
-         {ToolPattern("w|window.N.quadrant.position.y"),
-          [](const Call& c) { Must(c.window.AsetaRegion("y", kGrid - c.Number())); }}});
+    to.insert(to.end(),
+              {{ToolPattern("w|window.N.saveimage"), SaveImage},
+               {ToolPattern("w|window.N.file.move"), MoveFile},
+               {ToolPattern("w|window.N.file.load"), LoadFile},
+               {ToolPattern("w|window.N.drawmode"),
+                [](const Call& c) { Must(c.window.Channels()).AsetaPiirtoMoodi(c.Text()); }},
+               {ToolPattern("w|window.N.axis.x"), [](const Call& c) { SetChannel(c, "x"); }},
+               {ToolPattern("w|window.N.axis.y"), [](const Call& c) { SetChannel(c, "y"); }},
+               {ToolPattern("w|window.N.size.x"),
+                [](const Call& c) { c.Frame().SetOuterSize(c.Size(), c.Frame().OuterHeight()); }},
+               {ToolPattern("w|window.N.size.y"),
+                [](const Call& c) { c.Frame().SetOuterSize(c.Frame().OuterWidth(), c.Size()); }},
+               {ToolPattern("w|window.N.position.x"),
+                [](const Call& c) { c.Frame().SetPlace(c.Size(), c.Frame().Top()); }},
+               {ToolPattern("w|window.N.position.y"),
+                [](const Call& c) { c.Frame().SetPlace(c.Frame().Left(), c.Size()); }},
+               {ToolPattern("w|window.N.statistics.visible"),
+                [](const Call& c) {
+                    StatisticsOwner& owner = Must(c.window.Stats());
+                    Choose(c, "open", "close",
+                           [&owner](std::string_view w) { owner.AvaaTaiSuljeStatistics(w); });
+                }},
+               {ToolPattern("w|window.N.statistics.position.x"),
+                [](const Call& c) {
+                    Must(c.window.StatsTable()).LiikutaStatistiikkaLaatikkoa("x", c.Size().count);
+                }},
+               {ToolPattern("w|window.N.statistics.position.y"),
+                [](const Call& c) {
+                    Must(c.window.StatsTable()).LiikutaStatistiikkaLaatikkoa("y", c.Size().count);
+                }},
+               {ToolPattern("w|window.N.quadrant.visible"),
+                [](const Call& c) {
+                    QuadrantOwner& owner = Must(c.window.Quadrant());
+                    Choose(c, "open", "close",
+                           [&owner](std::string_view w) { owner.NaytaTaiPiilotaKvadrantti(w); });
+                }},
+               {ToolPattern("w|window.N.quadrant.position.x"),
+                [](const Call& c) { Must(c.window.Quadrant()).AsetaRegion("x", c.Number()); }},
+               {ToolPattern("w|window.N.quadrant.position.y"), [](const Call& c) {
+                    Must(c.window.Quadrant()).AsetaRegion("y", kGrid - c.Number());
+                }}});
 }
 
 void AddOtherCommands(std::vector<WindowCommand>& to) {
     to.insert(
         to.end(),
         {{ToolPattern("w|window.N.rotate.x"),
-          [](const Call& c) { Must(c.window.MuutaRotaatiota("x", c.Number())); }},
+          [](const Call& c) { Must(c.window.Space()).MuutaRotaatiota("x", c.Number()); }},
          {ToolPattern("w|window.N.rotate.y"),
-          [](const Call& c) { Must(c.window.MuutaRotaatiota("y", c.Number())); }},
+          [](const Call& c) { Must(c.window.Space()).MuutaRotaatiota("y", c.Number()); }},
          {ToolPattern("w|window.N.distance"),
-          [](const Call& c) { Must(c.window.MuutaEtaisyytta(c.Number())); }},
-         {ToolPattern("w|window.N.zero"), [](const Call& c) { Must(c.window.Nollaa()); }},
+          [](const Call& c) { Must(c.window.Space()).MuutaEtaisyytta(c.Number()); }},
+         {ToolPattern("w|window.N.zero"), [](const Call& c) { Must(c.window.Space()).Nollaa(); }},
          {ToolPattern("w|window.N.bgpicture"),
           [](const Call& c) {
+              SpaceView& owner = Must(c.window.Space());
               Choose(c, "paalla", "poissa",
-                     [&c](std::string_view w) { return c.window.AsetaTaustaKuvanTila(w); });
+                     [&owner](std::string_view w) { owner.AsetaTaustaKuvanTila(w); });
           }},
          {ToolPattern("w|window.N.overlay.K.histogram"),
           [](const Call& c) {
-              Must(c.window.AsetaHistogram(c.Slot(3), SlotOf(c.Text(), INT16_MAX)));
+              Must(Must(c.window.Sources()).AsetaHistogram(c.Slot(3), SlotOf(c.Text(), INT16_MAX)));
           }},
          {ToolPattern("w|window.N.curve.C.height"), [](const Call& c) { MoveCurve(c, "korkeus"); }},
          {ToolPattern("w|window.N.curve.C.name"), [](const Call& c) { MoveCurve(c, "nimi"); }},
@@ -158,10 +177,9 @@ void AddOtherCommands(std::vector<WindowCommand>& to) {
           [](const Call& c) { MoveCurve(c, "hajontavasen"); }},
          {ToolPattern("w|window.N.curve.C.deviation.right"),
           [](const Call& c) { MoveCurve(c, "hajontaoikea"); }},
-         {ToolPattern("w|window.N.curve.C.create"),
-          [](const Call& c) { Must(c.window.LuoTaiPoista("luo", c.Slot(3), c.Text())); }},
+         {ToolPattern("w|window.N.curve.C.create"), [](const Call& c) { MakeCurve(c, "luo"); }},
          {ToolPattern("w|window.N.curve.C.delete"),
-          [](const Call& c) { Must(c.window.LuoTaiPoista("poista", c.Slot(3), c.Text())); }}});
+          [](const Call& c) { MakeCurve(c, "poista"); }}});
 }
 
 const std::vector<WindowCommand>& Commands() {

@@ -48,8 +48,8 @@ class Program {
   public:
     Program() {
         RekisteroiKuvaajat();
-        OletusKoko = {1800, 1800};
-        OletusKokoHistogram = {1800, 1800};
+        OletusKoko("DotPlot") = {1800, 1800};
+        OletusKoko("Histogram") = {1800, 1800};
         main.Kaynnista();
     }
     ~Program() {

@@ -108,7 +108,7 @@ TEST_F(DotPlotTest, FastDrawFollowsTheLimit) {
     EXPECT_EQ(platform.popups.lastEntries[14].caption, "Full draw mode");
     EXPECT_EQ(form.surface.blocksPainted, 101U);
     // The tools' way changes the mode alone, and the step stays.
-    IkkunaPaikassa(1)->AsetaPiirtoMoodi("fast");
+    IkkunaPaikassa(1)->Channels()->AsetaPiirtoMoodi("fast");
     EXPECT_EQ(form.surface.blocksPainted, 101U);
     EXPECT_TRUE(form.surface.HasText("FAST DRAW MODE"));
 }
@@ -120,7 +120,7 @@ TEST_F(DotPlotTest, ResizeDrawsThinnedUntilTheMouseMoves) {
     form.SetOuterSize(TwipsFromPixels(400), TwipsFromPixels(300));
     EXPECT_EQ(form.surface.blocksPainted, 1000U);
     EXPECT_EQ(form.surface.Width(), 400 - ScriptedForm::kFrameWidth);
-    EXPECT_EQ(OletusKoko.Leveys, 6000);
+    EXPECT_EQ(OletusKoko("DotPlot").Leveys, 6000);
     form.Move(50, 50);
     EXPECT_EQ(form.surface.blocksPainted, 3000U);
     form.SetOuterSize(TwipsFromPixels(1), TwipsFromPixels(1));  // too small to hold anything
@@ -197,10 +197,10 @@ TEST_F(DotPlotTest, RegionsAndTheirNames) {
     IkkunaPaikassa(1)->Piirra();
     EXPECT_EQ(sides(), 0);
     MuokattavaRegion = 0;
-    IkkunaPaikassa(1)->AsetaKanava("y", 3);
+    IkkunaPaikassa(1)->Channels()->AsetaKanava("y", 3);
     EXPECT_EQ(sides(), 0) << "drawn on other channels";
     EXPECT_FALSE(form.surface.HasText("Poly-1"));
-    IkkunaPaikassa(1)->AsetaKanava("y", 2);
+    IkkunaPaikassa(1)->Channels()->AsetaKanava("y", 2);
     ChoosePopup(form, 5);
     EXPECT_EQ(sides(), 0);
 }
@@ -208,20 +208,21 @@ TEST_F(DotPlotTest, RegionsAndTheirNames) {
 TEST_F(DotPlotTest, QuadrantCross) {
     ScriptedForm& form = Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}});
     ChoosePopup(form, 2);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 5000");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 5000");
     EXPECT_EQ(form.surface.PixelAt(118, 30), kWhite);
-    IkkunaPaikassa(1)->AsetaRegion("x", 2500);
-    IkkunaPaikassa(1)->AsetaRegion("y", 1000);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("x"), " 2500");
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 9000") << "from the bottom";
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", 2500);
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("y", 1000);
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 9000")
+        << "from the bottom";
     EXPECT_EQ(form.surface.PixelAt(118, 30), kBlack);
     EXPECT_EQ(form.surface.PixelAt(68, 200), kWhite);
     EXPECT_EQ(form.surface.PixelAt(200, 38), kWhite);
-    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("close");
+    IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("close");
     ViimeKvadranttiX = 4000;
     ViimeKvadranttiY = 3000;
-    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("open");
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("x"), " 4000");
+    IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("open");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 4000");
 }
 
 TEST_F(DotPlotTest, ChannelsFromTheAxesAndTheirFallback) {
@@ -229,17 +230,17 @@ TEST_F(DotPlotTest, ChannelsFromTheAxesAndTheirFallback) {
         Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}, {"c", false, 1000, {0}}});
     platform.popups.choices.push_back({2, -1});
     form.Press(100, 230, MouseButton::kRight);  // below the x axis
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("x"), "3");
+    EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("x"), "3");
     ASSERT_EQ(platform.popups.lastEntries.size(), 3U);
     EXPECT_EQ(platform.popups.lastEntries[2].caption, "c");
     form.Press(10, 100, MouseButton::kRight);  // left of the y axis, dismissed
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("y"), "3") << "the last choice is applied again";
+    EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("y"), "2") << "nothing was chosen";
     form.Press(10, 18, MouseButton::kRight);  // above the y axis it is the plot's menu
     EXPECT_EQ(platform.popups.lastEntries.size(), 19U);
     PutFile(1, "one.fcs", {{"only", false, 1000, {5}}});
     IkkunaPaikassa(1)->Piirra();
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("x"), "1");
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKanava("y"), "1");
+    EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("x"), "1");
+    EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("y"), "1");
 }
 
 TEST_F(DotPlotTest, AWindowWithoutFileStaysEmpty) {

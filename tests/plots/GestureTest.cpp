@@ -5,8 +5,8 @@
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
-#include "plots/RegionOutlines.h"
 #include "tests/support/PlotFixture.h"
+#include "windows/RegionOutlines.h"
 
 namespace tessarin {
 namespace {
@@ -250,15 +250,15 @@ TEST_F(GestureTest, TheSameRegionHasTheSameMembersAtEverySize) {
 TEST_F(GestureTest, QuadrantIsDraggedAndStopsAtTheEdge) {
     ChoosePopup(form_, 2);
     Drag(118, 118, 68, 400);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("x"), " 2500");
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 0");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 0");
     EXPECT_EQ(ViimeKvadranttiX, 2500);
     EXPECT_EQ(ViimeKvadranttiY, 10000);
     Drag(68, 218, 68, 118);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaKvadrantinKoordinaatit("y"), " 5000");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 5000");
     ScriptedForm& second = NewDotPlot();
     ChoosePopup(second, 2);
-    EXPECT_EQ(IkkunaPaikassa(2)->AnnaKvadrantinKoordinaatit("x"), " 2500");
+    EXPECT_EQ(IkkunaPaikassa(2)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500");
 }
 
 TEST_F(GestureTest, PanelCommandsRenameDeleteAndRecolour) {

@@ -70,8 +70,8 @@ class HistogramTest : public PlotTest {
     HistogramTest() : form_(Make()) { Answer(3, "0"); }
 
     ScriptedForm& Make() {
-        OletusKokoHistogram = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
-                               TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
+        OletusKoko("Histogram") = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
+                                   TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
         std::vector<float> values(10, 500);
         values.insert(values.end(), 2, 250);
         PutFile(1, "tube.fcs",
@@ -153,38 +153,40 @@ TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
 
 TEST_F(HistogramTest, GivesItsBinsToOthers) {
     AnalysisWindow& window = *IkkunaPaikassa(1);
+    const BinOwner& bins = *window.Bins();
     ChoosePopup(form_, 16);
     std::string expected;
     for (int bin = 1; bin <= 1024; ++bin) {
         expected += bin == 512 ? "10\n" : (bin == 256 ? "2\n" : "0\n");
     }
     EXPECT_EQ(platform.clipboard.text, expected);
-    EXPECT_EQ((*window.LahetaHistogram())[512], 10);
-    EXPECT_EQ(window.LahetaMax(), 1000);
-    EXPECT_EQ(window.LahetaLog(), false);
-    EXPECT_EQ(window.LahetaNimi(), "FL1");
-    EXPECT_EQ(window.LahetaKanavaID(), 1);
-    EXPECT_EQ(window.LahetaScale(), 0);
+    EXPECT_EQ(bins.LahetaHistogram()[512], 10);
+    EXPECT_EQ(bins.LahetaMax(), 1000);
+    EXPECT_EQ(bins.LahetaLog(), false);
+    EXPECT_EQ(bins.LahetaNimi(), "FL1");
+    EXPECT_EQ(bins.LahetaKanavaID(), 1);
+    EXPECT_EQ(bins.LahetaScale(), 0);
     Populaatiot(1).X[1] = 1000;
     Populaatiot(1).X[2] = 4000;
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 1), 2500);
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("abskorkeus", 1), 2);
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("suhtkorkeus", 1), 2000);
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("other", 1), 0);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 2500);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("abskorkeus", 1), 2);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("suhtkorkeus", 1), 2000);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("other", 1), 0);
     Populaatiot(1).X[2] = 1e30F;
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 1), 5000);
-    EXPECT_EQ(window.AnnaHistonKorkeinKohta("paikka", 99), 0);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 5000);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 99), 0);
     int32_t place = 5000;
-    EXPECT_EQ(window.AnnaHistonKorkeus(place), 10000);
+    EXPECT_EQ(bins.AnnaHistonKorkeus(place), 10000);
     EXPECT_EQ(place, 512) << "the argument becomes the bin";
     place = -5;
-    EXPECT_EQ(window.AnnaHistonKorkeus(place), 0);
-    window.AsetaKanava("x", 2);
-    EXPECT_EQ(window.AnnaKanava("x"), "2");
+    EXPECT_EQ(bins.AnnaHistonKorkeus(place), 0);
+    window.Channels()->AsetaKanava("x", 2);
+    EXPECT_EQ(window.Channels()->AnnaKanava("x"), "2");
     EXPECT_TRUE(form_.surface.HasText("FL2"));
     PutFile(1, "narrow.fcs", {{"only", false, 1000, {1}}});
     window.Piirra();
-    EXPECT_EQ(window.AnnaKanava("x"), "1") << "a channel that the file lacks falls back";
+    EXPECT_EQ(window.Channels()->AnnaKanava("x"), "1")
+        << "a channel that the file lacks falls back";
 }
 
 TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
@@ -313,7 +315,7 @@ TEST_F(HistogramTest, StatisticsWithSpread) {
     EXPECT_EQ(grid.Row("None"), (Row{"None", "0", "0", "0", "0", "0"}));
     EXPECT_EQ(grid.table.Rows(), 4) << "no row for a marker of another channel";
     EXPECT_EQ(grid.width.count, 5 * 1200 + 1500 + 100);
-    const AnalysisWindow& window = *IkkunaPaikassa(1);
+    const StatisticsOwner& window = *IkkunaPaikassa(1)->Stats();
     EXPECT_EQ(window.AnnaStatistiikka("3", "cv"), 50);
     EXPECT_EQ(window.AnnaStatistiikka("3", "vis"), 50);
     EXPECT_EQ(window.AnnaStatistiikka("0", "xmean"), 135);
@@ -324,9 +326,9 @@ TEST_F(HistogramTest, StatisticsWithSpread) {
     platform.mainForm.grids.back()->events.Grid_RightPress();
     EXPECT_EQ(platform.popups.lastEntries[5].caption, "CV");
     EXPECT_EQ(grid.table.rows[0].cells[0], "File name");
-    IkkunaPaikassa(1)->NaytaPopulaatio(3);
+    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(3);
     EXPECT_EQ(grid.Row("Visible")[1], "2");
-    IkkunaPaikassa(1)->AsetaKanava("x", 2);
+    IkkunaPaikassa(1)->Channels()->AsetaKanava("x", 2);
     EXPECT_EQ(grid.table.Rows(), 4) << "the header row, and the marker on that channel";
     ChoosePopup(form_, 1);
     EXPECT_TRUE(platform.mainForm.grids.empty());

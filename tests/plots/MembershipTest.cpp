@@ -6,11 +6,11 @@
 
 #include "core/Projektio.h"
 #include "plots/MarkerMembership.h"
-#include "plots/PlotArea.h"
 #include "plots/PolygonMembership.h"
 #include "plots/UsedEvents.h"
 #include "populations/PolygonTest.h"
 #include "tests/support/ProgramFixture.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 namespace {

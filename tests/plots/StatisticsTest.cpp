@@ -10,12 +10,12 @@
 #include <utility>
 
 #include "mainwindow/WindowList.h"
+#include "plots/DotStatistics.h"
 #include "plots/EventText.h"
 #include "plots/HistogramStatistics.h"
-#include "plots/Statistics.h"
-#include "plots/Tilastot.h"
 #include "tests/support/PlotFixture.h"
 #include "tests/support/TemporaryFolder.h"
+#include "windows/Statistics.h"
 
 namespace tessarin {
 namespace {
@@ -23,7 +23,7 @@ namespace {
 class StatisticsTest : public PlotTest {
   protected:
     ScriptedGridForm& OpenStatistics() {
-        IkkunaPaikassa(1)->AvaaTaiSuljeStatistics("open");
+        IkkunaPaikassa(1)->Stats()->AvaaTaiSuljeStatistics("open");
         return *platform.mainForm.grids.back();
     }
     void ChooseStatItem(ScriptedGridForm& grid, int item) {
@@ -55,15 +55,15 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     EXPECT_EQ(grid.width.count, 6 * 1200 + 1500 + 100);
     EXPECT_EQ(grid.height.count, 5 * 240 + 380);
 
-    IkkunaPaikassa(1)->NaytaPopulaatio(4);
+    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(4);
     EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "0", "100", "0", "0", "0", "0"}));
     EXPECT_EQ(grid.Row("Two")[2], "0");
-    IkkunaPaikassa(1)->NaytaPopulaatio(2);
+    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(2);
     EXPECT_EQ(grid.Row("Two and not Nobody")[2], "50");
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("17", "vis"), 50);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "xmean"), 50);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("zz", "number"), std::nullopt);
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("0", "median"), std::nullopt);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("17", "vis"), 50);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("0", "xmean"), 50);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("zz", "number"), std::nullopt);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("0", "median"), std::nullopt);
 }
 
 // The statistics of population 2 of file 1, event by event.
@@ -145,9 +145,9 @@ TEST_F(StatisticsTest, QuadrantsDivideOnTheGrid) {
               (Row{"Lower Right", "2", "50", "700", "300", "670.82", "223.6"}))
         << "an event on the lines goes right and down";
     EXPECT_EQ(grid.table.rows[2].cells[0], "") << "an empty row before them";
-    EXPECT_EQ(IkkunaPaikassa(1)->AnnaStatistiikka("lr", "vis"), 50);
-    IkkunaPaikassa(1)->AsetaRegion("x", 0);
-    IkkunaPaikassa(1)->AsetaRegion("y", 0);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("lr", "vis"), 50);
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", 0);
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("y", 0);
     EXPECT_EQ(grid.Row("Lower Right")[2], "100");
 }
 
@@ -184,15 +184,15 @@ TEST_F(StatisticsTest, ItemsHeadersAndText) {
     const std::string text =
         "File name\ttube.fcs \t\nComments\tfirst, second \t\n\tNumber\tX mean\nVisible\t1\t5";
     EXPECT_EQ(platform.clipboard.text, text);
-    IkkunaPaikassa(1)->NaytaTaiPiilotaKvadrantti("open");
-    const AnalysisWindow& window = *IkkunaPaikassa(1);
+    IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("open");
+    const StatisticsTableOwner& window = *IkkunaPaikassa(1)->StatsTable();
     EXPECT_TRUE(window.AnnaKokoStatistiikka("1-rivinen-otsikko")
-                    ->starts_with("[W 1] Visible Number\t[W 1] Visible X mean\t[W 1] Upper Left "));
+                    .starts_with("[W 1] Visible Number\t[W 1] Visible X mean\t[W 1] Upper Left "));
     EXPECT_EQ(window.AnnaKokoStatistiikka("1-rivinen-tieto"), "1\t5\t0\t0\t0\t0\t1\t5\t0\t0\t")
         << "the one event lies lower left";
     EXPECT_EQ(window.AnnaKokoStatistiikka("other"), "");
     EXPECT_TRUE(window.AnnaKokoStatistiikka("monirivinen")
-                    ->ends_with("Lower Left\t1\t5\nLower Right\t0\t0"));
+                    .ends_with("Lower Left\t1\t5\nLower Right\t0\t0"));
 }
 
 TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
@@ -209,7 +209,7 @@ TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
     EXPECT_GT(platform.clipboard.image.width, 0);
     platform.mainForm.grids[0]->events.Form_QueryUnload();
     EXPECT_FALSE(IkkunatStat(1).Used);
-    EXPECT_EQ(IkkunaPaikassa(1)->OnkoStatistiikkaKaytossa(), false);
+    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->OnkoStatistiikkaKaytossa(), false);
     Choose("CopyImages");
     ChoosePopup(form, 1);
     EXPECT_EQ(platform.popups.lastEntries[1].caption, "Open statistics");
@@ -226,7 +226,7 @@ TEST_F(StatisticsTest, SavesEventsAsText) {
     ScriptedForm& form =
         Open({{"a", false, 1000, {0.1F, 2, 1e10F}}, {"b", false, 1000, {-3, 0, 1}}});
     DefinePolygon(1, "g", {1, 1, 1}, {1, 3});
-    IkkunaPaikassa(1)->NaytaPopulaatio(1);
+    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(1);
     const TemporaryFolder folder;
     const std::string path = folder.Path("events.txt");
     platform.dialogs.texts = {path, path};

@@ -8,12 +8,12 @@
 
 #include "core/Text.h"
 #include "mainwindow/WindowList.h"
-#include "plots/Statistics.h"
 #include "sheets/SheetKeys.h"
 #include "sheets/SheetStore.h"
 #include "tests/support/FcsBuilder.h"
 #include "tests/support/ProgramFixture.h"
 #include "tests/support/TemporaryFolder.h"
+#include "windows/Statistics.h"
 
 namespace tessarin {
 namespace {
@@ -49,7 +49,7 @@ class SheetTest : public ProgramTest {
         platform.dialogs.texts.push_back(path);
         Choose("FileOpenView");
     }
-    std::vector<std::string> Info(int16_t id) { return *IkkunaPaikassa(id)->SaveInfo(); }
+    std::vector<std::string> Info(int16_t id) { return IkkunaPaikassa(id)->SaveInfo(); }
     std::vector<std::vector<uint32_t>> Pictures() {
         std::vector<std::vector<uint32_t>> pictures;
         for (const ScriptedForm* form : platform.mainForm.children) {
@@ -65,7 +65,7 @@ class SheetTest : public ProgramTest {
 };
 
 void SheetTest::LayOut() {
-    OletusKoko = {3000, 4500};
+    OletusKoko("DotPlot") = {3000, 4500};
     main.AvaaTiedosto(DataFile("one.fcs", 1));
     main.AvaaTiedosto(DataFile("two.fcs", 500));
     Choose("CreateHistogram");
@@ -89,15 +89,15 @@ void SheetTest::LayOut() {
         ChoosePopup(*forms[1], item);
     }
     static_cast<Statistics&>(*IkkunatStat(2).Window).AsetaNakyvyys(3, 0);
-    IkkunaPaikassa(2)->LiikutaStatistiikkaLaatikkoa("x", 1230);
-    IkkunaPaikassa(2)->AsetaRegion("x", 1234);
+    IkkunaPaikassa(2)->StatsTable()->LiikutaStatistiikkaLaatikkoa("x", 1230);
+    IkkunaPaikassa(2)->Quadrant()->AsetaRegion("x", 1234);
     platform.dialogs.texts = {"250", "0"};
     platform.dialogs.colors = {{1, 2, 3}};
     for (const int item : {1, 2, 3, 11, 12, 13}) {
         ChoosePopup(*forms[3], item);
     }
-    IkkunaPaikassa(1)->NaytaPopulaatio(1);
-    IkkunaPaikassa(4)->AsetaKanava("x", 3);
+    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(1);
+    IkkunaPaikassa(4)->Channels()->AsetaKanava("x", 3);
     forms[0]->SetPlace({150}, {-45});
     main.PiirraKaikki();
 }

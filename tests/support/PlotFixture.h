@@ -13,8 +13,8 @@ class PlotTest : public ProgramTest {
     // A window whose surface is 236 by 236 pixels: the plot area is 200 by 200, so that with a
     // range of 1000 a value of 5 is one pixel.
     ScriptedForm& Open(const std::vector<TestChannel>& channels) {
-        OletusKoko = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
-                      TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
+        OletusKoko("DotPlot") = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
+                                 TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
         PutFile(1, "tube.fcs", channels);
         CurrentFile = 1;
         return NewDotPlot();

@@ -260,7 +260,7 @@ TEST_F(ToolRunTest, PicturesThatNobodySeesAreThereWhenAskedFor) {
     const auto startAnew = [] {
         VapautaIkkuna(1);
         VapautaIkkuna(2);
-        OletusKoko = {};
+        OletusKoko("DotPlot") = {};
         FastDrawLimit = 50000;
         Populaatio& region = Populaatiot(1);
         region.Defined = true;

@@ -1,0 +1,204 @@
+#include "windows/FrameWindow.h"
+
+#include <utility>
+
+#include "core/BusyPointer.h"
+#include "core/RegionMuuttujat.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/WindowList.h"
+
+namespace tessarin {
+
+FrameWindow::FrameWindow(PaaIkkuna& main, const FrameKind& kind)
+    : main_(main), kind_(kind), form_(main.Services().mainForm.MakeChild(*this)) {}
+
+FrameWindow::~FrameWindow() {
+    main_.UnohdaKopioitava(this);
+}
+
+const Tiedosto* FrameWindow::File() const {
+    const int16_t slot = ID == 0 ? int16_t{0} : Ikkunat(ID).FileIndex;
+    return Tiedostot.Holds(slot) && Tiedostot(slot).Valid ? &Tiedostot(slot) : nullptr;
+}
+
+std::string FrameWindow::AnnaOtsikko() const {
+    const Tiedosto* file = kind_.fileTitle.empty() ? nullptr : File();
+    return "(" + std::to_string(ID) + "): " +
+           (file == nullptr ? std::string(kind_.emptyTitle)
+                            : std::string(kind_.fileTitle) + file->FileName);
+}
+
+void FrameWindow::Alusta(int16_t id) {
+    ID = id;
+    Ikkunat(ID).Selectable = kind_.selectable;
+    Ikkunat(ID).Selected = kind_.selectable;
+    if (kind_.selectable && CurrentFile != 0 && Tiedostot(CurrentFile).Valid) {
+        Ikkunat(ID).FileIndex = CurrentFile;
+    }
+    PaivitaKehysOtsikko(ID);
+    AsetaKoko();
+    if (File() != nullptr) {
+        LatauksenJalkeen();
+    }
+    Piirra();
+}
+
+void FrameWindow::AsetaKoko() {
+    const RememberedSize size =
+        kind_.sizeGroup.empty() ? RememberedSize() : OletusKoko(kind_.sizeGroup);
+    const bool remembered = size.Leveys != 0 || size.Korkeus != 0;
+    form_->SetOuterSize(remembered ? Twips{size.Leveys} : kind_.width,
+                        remembered ? Twips{size.Korkeus} : kind_.height);
+    LayOut(form_->ScaleWidth(), form_->ScaleHeight());
+    tausta_.Paivita();
+    Surface().SetBackColor(tausta_.BackColor());
+    Surface().Cls();
+    ready_ = true;
+}
+
+void FrameWindow::LayOut(int width, int height) {
+    Surface().SetPlace(0, 0);
+    Surface().SetSize(width > 0 ? width : Surface().Width(),
+                      height > 0 ? height : Surface().Height());
+}
+
+bool FrameWindow::OnkoKokoMuuttumassa() const {
+    return KokoaMuutetaan == ID;
+}
+
+void FrameWindow::AsetaEle(bool running) {
+    EleKaynnissa = running;
+}
+
+void FrameWindow::AsetaPaalle(bool paalla) {
+    paalla_ = paalla;
+    Surface().SetAutoRedraw(!paalla);
+}
+
+void FrameWindow::Piirra() {
+    if (!ready_ || !HasPicture() || (Loading && !kind_.drawsWhileLoading)) {
+        return;
+    }
+    const BusyPointer busy;
+    PaivitaKehysOtsikko(ID);
+    Prepare();
+    lykatty_ = LykkaaPiirto;
+    if (!lykatty_) {
+        Paint();
+    }
+    if (!EleKaynnissa && !Loading && !OnkoKokoMuuttumassa()) {
+        FinishRedraw();
+        if (kind_.autosaves) {
+            main_.TalletaNakyma("Autosave");
+        }
+    }
+    if (IsOnPage()) {
+        main_.Kumppanit().preview->Piirra();
+    }
+}
+
+void FrameWindow::PiirraLykatty() {
+    if (std::exchange(lykatty_, false) && HasPicture()) {
+        Paint();
+    }
+}
+
+// A redraw is of the picture below whatever a gesture draws above it: a drag, or the corners of a
+// region that is being drawn.
+void FrameWindow::Paint() {
+    Surface().SetAutoRedraw(true);
+    ClearSurface();
+    DrawPicture(Area());
+    const bool corners = RegionAloitettu && RegionIkkuna == ID;
+    Surface().SetAutoRedraw(!paalla_ && !corners);
+}
+
+void FrameWindow::ClearSurface() {
+    tausta_.Paivita();
+    Surface().SetBackColor(tausta_.BackColor());
+    Surface().SetForeColor(tausta_.ForeColor());
+    Surface().Cls();
+    if (const Tiedosto* file = File(); file != nullptr && IsOnPage()) {
+        Surface().SetCurrent(TekstiMarginaali, 1);
+        Surface().Print(file->FileName);
+    }
+}
+
+bool FrameWindow::IsOnPage() {
+    return main_.OnkoEsikatselu() && Page() != nullptr && Page()->OnkoPreviewissa();
+}
+
+void FrameWindow::UnloadWindow() {
+    VapautaIkkuna(ID);
+}
+
+void FrameWindow::Form_Activate() {
+    AktivoiIkkuna(main_, ID);
+}
+
+void FrameWindow::Form_Resize() {
+    if (!ready_) {
+        return;
+    }
+    const PlotArea before = Area();
+    LayOut(form_->ScaleWidth(), form_->ScaleHeight());
+    SizeChanged(before);
+    if (form_->HasOwnSize() && !kind_.sizeGroup.empty()) {
+        OletusKoko(kind_.sizeGroup) = {form_->OuterWidth().count, form_->OuterHeight().count};
+    }
+    if (kind_.thinsWhileResized && !Loading) {
+        KokoaMuutetaan = ID;
+    }
+    Piirra();
+}
+
+void FrameWindow::Form_KeyDown(int keyCode) {
+    if (keyCode == kKeyShift) {
+        ShiftPainettu = true;
+    }
+}
+
+void FrameWindow::Form_KeyUp(int /*keyCode*/) {
+    ShiftPainettu = false;
+}
+
+void FrameWindow::Form_QueryUnload() {
+    const auto alive = Ikkunat(ID).Window;  // until this call returns
+    UnloadWindow();
+}
+
+// The mouse: which press means what, in the order in which they are tried.
+
+void FrameWindow::Kuva_MouseDown(const MouseEvent& mouse) {
+    // A menu lets events run while it is open, and with them the closing of this window.
+    const auto alive = Ikkunat(ID).Window;
+    ValikkoAkseli = 0;
+    if (UusiRegionPaalla) {
+        PressArmed(mouse);
+    } else if (EleKaynnissa) {
+        return;  // a drag is under way with the other button
+    } else if (mouse.button == MouseButton::kRight) {
+        PressRight({mouse.x, mouse.y});
+    } else if (mouse.button == MouseButton::kLeft) {
+        PressLeft(mouse);
+    }
+}
+
+void FrameWindow::Kuva_MouseMove(const MouseEvent& mouse) {
+    main_.HiiriMuualla();
+    if (OnkoKokoMuuttumassa()) {
+        KokoaMuutetaan = 0;
+        Piirra();
+    }
+    Moved(mouse);
+}
+
+void FrameWindow::Kuva_MouseUp(const MouseEvent& mouse) {
+    Released({mouse.x, mouse.y});
+}
+
+void FrameWindow::Kuva_MouseLost() {
+    MouseLost();
+}
+
+}  // namespace tessarin

@@ -1,0 +1,149 @@
+#include "windows/Statistics.h"
+
+#include "core/Muuttujat.h"
+#include "mainwindow/PaaIkkuna.h"
+#include "mainwindow/Popups.h"
+
+namespace tessarin {
+namespace {
+
+constexpr int32_t kFrameWidth = 100;   // twips beside the columns
+constexpr int32_t kFrameHeight = 380;  // twips above and below the rows
+
+}  // namespace
+
+Statistics::Statistics(PaaIkkuna& main, StatisticsHost& owner, std::vector<TilastoValinta> items)
+    : main_(main),
+      owner_(owner),
+      valikko_(std::move(items)),
+      form_(main.Services().mainForm.MakeGridChild(*this)) {
+    form_->Show();
+}
+
+Statistics::~Statistics() {
+    main_.UnohdaKopioitava(this);
+}
+
+bool Statistics::OnkoNakyvissa(int item) const {
+    return item >= 1 && item <= static_cast<int>(valikko_.size()) &&
+           valikko_[static_cast<std::size_t>(item) - 1].Nakyvissa;
+}
+
+void Statistics::AsetaNakyvyys(int item, int value) {
+    if (item >= 1 && item <= static_cast<int>(valikko_.size()) && (value == 0 || value == 1)) {
+        valikko_[static_cast<std::size_t>(item) - 1].Nakyvissa = value == 1;
+    }
+}
+
+void Statistics::StatistiikkaMenuValintaReaktio(int item) {
+    const int last = static_cast<int>(valikko_.size());
+    if (item == 0) {
+        main_.Services().clipboard.Clear();
+        CopyToClipboard();
+    } else if (item == last) {
+        owner_.AsetaTilastoEsikatseluun(!owner_.OnkoTilastoEsikatselussa());
+        main_.PiirraKaikki();
+    } else if (item > 0 && item < last) {
+        AsetaNakyvyys(item, OnkoNakyvissa(item) ? 0 : 1);
+        bool any = false;
+        for (const TilastoValinta& choice : valikko_) {
+            any = any || choice.Nakyvissa;
+        }
+        if (!any) {
+            AsetaNakyvyys(item, 1);  // the last visible item cannot be turned off
+        }
+        owner_.PaivitaStatistiikka();
+        if (main_.OnkoEsikatselu()) {
+            main_.Kumppanit().preview->Piirra();
+        }
+    }
+}
+
+void Statistics::CopyToClipboard() {
+    main_.Services().clipboard.SetText(TaulukonTeksti(owner_.TilastoKopio()));
+}
+
+int Statistics::HeaderRows() const {
+    int rows = 0;
+    for (const TilastoValinta& choice : valikko_) {
+        rows += choice.Nakyvissa && choice.Laji == TilastoLaji::kHeader ? 1 : 0;
+    }
+    return rows;
+}
+
+std::string Statistics::OneLine(bool heads) const {
+    const auto headRow = static_cast<std::size_t>(HeaderRows());
+    std::string text;
+    for (std::size_t r = headRow + 1; r < table_.rows.size(); ++r) {
+        const std::vector<std::string>& cells = table_.rows[r].cells;
+        for (std::size_t c = 1; c < cells.size(); ++c) {
+            if (heads && !cells[0].empty()) {
+                text += "[W " + std::to_string(AnnaID()) + "] " + cells[0] + " " +
+                        table_.rows[headRow].cells[c] + "\t";
+            } else if (!heads && !cells[0].empty() && !cells[c].empty()) {
+                text += cells[c] + "\t";
+            }
+        }
+    }
+    return text;
+}
+
+std::string Statistics::AnnaKokoStatistiikka(std::string_view format) const {
+    if (format == "1-rivinen-otsikko" || format == "1-rivinen-tieto") {
+        return OneLine(format == "1-rivinen-otsikko");
+    }
+    return format == "monirivinen" ? TaulukonTeksti(table_) : "";
+}
+
+void Statistics::Nayta(const std::string& caption, const GridTable& table) {
+    table_ = table;
+    form_->SetCaption(caption);
+    form_->SetTable(table);
+    int32_t width = kFrameWidth;
+    for (const Twips column : table.columnWidths) {
+        width += column.count;
+    }
+    form_->SetOuterSize({width}, {GridForm::kRowHeight.count * table.Rows() + kFrameHeight});
+}
+
+void Statistics::Form_Activate() {
+    main_.AsetaKopioitava(this);
+}
+
+void Statistics::Form_QueryUnload() {
+    const auto alive = IkkunatStat(AnnaID()).Window;  // until this call returns
+    owner_.SuljeStatistiikka();
+}
+
+void Statistics::Grid_RightPress() {
+    const auto alive = IkkunatStat(AnnaID()).Window;
+    valikko_.back().Teksti = owner_.OnkoTilastoEsikatselussa() ? "Don't show in print preview page"
+                                                               : "Show in print preview page";
+    std::vector<PopupEntry> entries;
+    for (const TilastoValinta& choice : valikko_) {
+        entries.push_back({choice.Teksti, true, choice.Nakyvissa});
+    }
+    entries.back().enabled = main_.Kumppanit().preview != nullptr;
+    const int item = NaytaStatMenu(main_, AnnaID(), entries);
+    if (item >= 0) {
+        StatistiikkaMenuValintaReaktio(item);
+        main_.TalletaNakyma("Autosave");
+    }
+}
+
+void Statistics::Grid_MouseMove() {
+    main_.HiiriMuualla();
+}
+
+std::string TaulukonTeksti(const GridTable& table) {
+    std::string text;
+    for (const GridRow& row : table.rows) {
+        text += text.empty() && &row == &table.rows.front() ? "" : "\n";
+        for (std::size_t c = 0; c < row.cells.size(); ++c) {
+            text += (c == 0 ? "" : "\t") + row.cells[c];
+        }
+    }
+    return text;
+}
+
+}  // namespace tessarin

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "platform/Controls.h"
 #include "platform/Kuva.h"
 #include "platform/Twips.h"
 
@@ -19,27 +20,43 @@ struct MouseEvent {
     double y = 0;
 };
 
+inline constexpr int kKeyBackspace = 8;
 inline constexpr int kKeyShift = 16;
+inline constexpr int kKeyEscape = 27;
+inline constexpr int kKeyDelete = 46;
 
-/// What a form tells its window.
+/// A key went down or up. Letters and digits have the codes of their ASCII capitals, the keys
+/// named above theirs, all others 0.
+struct KeyEvent {
+    int code = 0;
+    bool shift = false;
+    bool ctrl = false;
+};
+
+/// What a form tells its window; what a kind of window does not care for does nothing.
 class FormEvents {
   public:
     virtual ~FormEvents() = default;
 
     /// The form became the active child; not sent again while it stays so.
     virtual void Form_Activate() = 0;
-    /// The client area has another size now.
-    virtual void Form_Resize() = 0;
-    virtual void Form_KeyDown(int keyCode) = 0;
-    virtual void Form_KeyUp(int keyCode) = 0;
-    /// The user closes the form. It is gone when the call returns; the receiver may destroy the
-    /// form, and itself, during the call.
+    /// The user closes the form. It is gone, or hidden, when the call returns; the receiver may
+    /// destroy the form, and itself, during the call.
     virtual void Form_QueryUnload() = 0;
-    virtual void Kuva_MouseDown(const MouseEvent& mouse) = 0;
-    virtual void Kuva_MouseMove(const MouseEvent& mouse) = 0;
-    virtual void Kuva_MouseUp(const MouseEvent& mouse) = 0;
+    /// The client area has another size now.
+    virtual void Form_Resize() {}
+    /// Keys while the form is the active child.
+    virtual void Form_KeyDown(const KeyEvent& /*key*/) {}
+    virtual void Form_KeyUp(const KeyEvent& /*key*/) {}
+    /// The mouse moved over the client area or a control in it, not over the surface.
+    virtual void Form_MouseMove() {}
+    virtual void Kuva_MouseDown(const MouseEvent& /*mouse*/) {}
+    virtual void Kuva_MouseMove(const MouseEvent& /*mouse*/) {}
+    virtual void Kuva_MouseUp(const MouseEvent& /*mouse*/) {}
+    /// The press that was just told was the second of a double click.
+    virtual void Kuva_DoubleClick(const MouseEvent& /*mouse*/) {}
     /// A press, drag or move was broken off: the mouse was taken away while a button was down.
-    virtual void Kuva_MouseLost() = 0;
+    virtual void Kuva_MouseLost() {}
 };
 
 /// The child window. Destroying it takes it off the screen without asking and sends no event.
@@ -57,11 +74,18 @@ class Form {
     /// False while the form is minimised or fills the main window: its size then is not one that
     /// the user gave it.
     virtual bool HasOwnSize() const = 0;
+    /// Whether the user can give it another size; the program always can.
+    virtual void SetResizable(bool resizable) = 0;
 
     /// Upper left corner of the frame in the main window's area.
     virtual Twips Left() const = 0;
     virtual Twips Top() const = 0;
     virtual void SetPlace(Twips left, Twips top) = 0;
+    /// Moves it into the area, as far as it has room there; its title bar in any case.
+    virtual void MoveIn() = 0;
+    /// Size of that area in pixels.
+    virtual int AreaWidth() const = 0;
+    virtual int AreaHeight() const = 0;
 
     /// Size of the client area in pixels; 0 when there is none to see.
     virtual int ScaleWidth() const = 0;
@@ -69,10 +93,14 @@ class Form {
 
     /// Shows it as the active child.
     virtual void Show() = 0;
+    /// Shows it while another child stays the active one.
+    virtual void ShowBeside() = 0;
     virtual void Hide() = 0;
 
     /// The surface in the client area.
     virtual Kuva& Surface() = 0;
+    /// What makes the controls in the client area. They must not outlive the form.
+    virtual ControlMaker& Controls() = 0;
 };
 
 }  // namespace tessarin

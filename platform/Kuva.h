@@ -83,8 +83,9 @@ class Kuva {
     virtual void SetCurrent(double x, double y) = 0;
     /// Writes UTF-8 text at the current place in the text colour. Each character takes 7 pixels.
     virtual void Print(std::string_view text) = 0;
-    /// The next `Print` writes upwards; the current place is the text's start, at its lower end.
-    virtual void AsetaKierrettyFontti() = 0;
+    /// The next `Print` writes at an angle, in tenths of a degree to the left: 900 is upwards. The
+    /// current place is the upper left corner of the first character before it was turned.
+    virtual void AsetaKierrettyFontti(int tenths) = 0;
     /// Back to the font of the surface.
     virtual void PalautaFontti() = 0;
 

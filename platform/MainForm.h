@@ -10,9 +10,7 @@
 #include "core/Bitmap.h"
 #include "core/Color.h"
 #include "platform/Form.h"
-#include "platform/GridForm.h"
 #include "platform/Menus.h"
-#include "platform/ToolForm.h"
 #include "platform/Twips.h"
 
 namespace tessarin {
@@ -87,12 +85,6 @@ class MainForm {
 
     /// Makes a child window, not shown yet. `events` must outlive it.
     virtual std::unique_ptr<Form> MakeChild(FormEvents& events) = 0;
-
-    /// Likewise a child window that shows a table.
-    virtual std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& events) = 0;
-
-    /// Likewise the window of tools.
-    virtual std::unique_ptr<ToolForm> MakeToolForm(ToolFormEvents& events) = 0;
 
     /// A surface that nobody sees.
     virtual std::unique_ptr<Kuva> MakeSurface() = 0;

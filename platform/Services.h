@@ -22,6 +22,8 @@ class Clipboard {
     virtual void SetImage(const Bitmap& image) = 0;
     /// The text on it; empty when there is none.
     virtual std::string Text() const = 0;
+    /// The picture on it, also one of another program; without pixels when there is none.
+    virtual Bitmap Image() const = 0;
 };
 
 /// The pointer of the whole program.

@@ -44,8 +44,9 @@ double TextWidth(std::string_view text) {
 // Beside the y axis, from `y` upwards.
 void PrintUpwards(Kuva& surface, const PlotArea& area, double y, std::string_view text) {
     constexpr int kRotatedHeight = 12;
+    constexpr int kUpwards = 900;  // tenths of a degree
     surface.SetCurrent(area.Left() - kRotatedHeight - TikinPituus, y);
-    surface.AsetaKierrettyFontti();
+    surface.AsetaKierrettyFontti(kUpwards);
     surface.Print(text);
     surface.PalautaFontti();
 }

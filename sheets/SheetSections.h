@@ -1,6 +1,7 @@
 // The parts of a sheet behind its windows: those that there is one of at most.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -31,12 +32,7 @@ inline SheetSection* EtsiOsa(const Companions& companions, std::string_view key)
 
 /// Whether lines that begin so belong to a section.
 constexpr bool OnkoOsa(std::string_view key) {
-    for (const SheetSectionName& name : kSheetSections) {
-        if (name.key == key) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::find(kSheetSections, key, &SheetSectionName::key) != kSheetSections.end();
 }
 
 }  // namespace tessarin

@@ -1,12 +1,95 @@
 #include "tools/Skripti.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "mainwindow/PaaIkkuna.h"
 #include "tools/ToolRun.h"
 
 namespace tessarin {
+namespace {
 
-Skripti::Skripti(PaaIkkuna& main)
-    : main_(main), form_(main.Services().mainForm.MakeToolForm(*this)) {}
+// Left, top, width and height in pixels; in a larger form the boxes grow.
+constexpr PixelBox kText{8, 8, 409, 305};
+constexpr PixelBox kExecute{8, 320, 97, 17};
+constexpr PixelBox kCursorPlace{112, 320, 97, 19};
+constexpr PixelBox kClear{216, 320, 97, 17};
+constexpr PixelBox kSize{320, 320, 97, 17};
+constexpr PixelBox kVariablesLabel{8, 344, 89, 17};
+constexpr PixelBox kVariables{8, 360, 409, 129};
+constexpr int kFullWidth = 425;
+constexpr int kFullHeight = 491;
+
+// The small form, its frame included, and where its one button stands.
+constexpr int kSmallWidth = 120;
+constexpr int kSmallHeight = 60;
+constexpr PixelBox kSmallExecute{8, 0, 97, 17};
+
+PixelBox Grown(PixelBox box, int down, int wider, int higher) {
+    return {box.left, box.top + down, box.width + wider, box.height + higher};
+}
+
+}  // namespace
+
+Skripti::Skripti(PaaIkkuna& main) : main_(main), form_(main.Services().mainForm.MakeChild(*this)) {
+    form_->SetCaption("Tool running");
+    form_->Surface().SetVisible(false);
+    MakeControls();
+    form_->Hide();
+}
+
+void Skripti::MakeControls() {
+    ControlMaker& controls = form_->Controls();
+    Teksti = controls.MakeTextBox({"Teksti", "Text of the tool"});
+    Toteuta = controls.MakeButton({"Toteuta", "Execute"});
+    KursorinPaikka = controls.MakeTextField({"KursorinPaikka", "Row of the cursor", {}, true});
+    Tyhjenna = controls.MakeButton({"Tyhjenna", "Clear"});
+    MuutaKokoa = controls.MakeButton({"MuutaKokoa", "Minimize"});
+    label_ = controls.MakeLabel({"MuuttujienOtsikko", "Variable values"});
+    MuuttujienArvot = controls.MakeTextBox({"Muuttujat", "Variable values", {}, true});
+    KursorinPaikka->SetText("Row: 1");
+    Teksti->onRow = [this](int row) { KursorinPaikka->SetText("Row: " + std::to_string(row)); };
+    Toteuta->onClick = [this] { Toteuta_Click(); };
+    Tyhjenna->onClick = [this] { Teksti->SetText(""); };
+    MuutaKokoa->onClick = [this] { MuutaSkriptiKoko(""); };
+}
+
+// The text box takes what a larger window has to give; the rest keeps its distance from below.
+void Skripti::Arrange() {
+    const bool full = !SkriptiPieni;
+    Toteuta->SetPlace(kSmallExecute);
+    for (Control* control :
+         std::initializer_list<Control*>{Teksti.get(), KursorinPaikka.get(), Tyhjenna.get(),
+                                         MuutaKokoa.get(), label_.get(), MuuttujienArvot.get()}) {
+        control->SetVisible(full);
+    }
+    if (!full) {
+        return;
+    }
+    const int wider = std::max(0, form_->ScaleWidth() - kFullWidth);
+    const int down = std::max(0, form_->ScaleHeight() - kFullHeight);
+    Teksti->SetPlace(Grown(kText, 0, wider, down));
+    Toteuta->SetPlace(Grown(kExecute, down, 0, 0));
+    KursorinPaikka->SetPlace(Grown(kCursorPlace, down, 0, 0));
+    Tyhjenna->SetPlace(Grown(kClear, down, 0, 0));
+    MuutaKokoa->SetPlace(Grown(kSize, down, 0, 0));
+    label_->SetPlace(Grown(kVariablesLabel, down, 0, 0));
+    MuuttujienArvot->SetPlace(Grown(kVariables, down, wider, 0));
+}
+
+// The whole window is to be seen. At first it stands in the lower left corner of the area, where
+// it hides least of the plots.
+void Skripti::SetOuterSize(int width, int height) {
+    const int bottom = PixelsFromTwips(form_->Top()) + PixelsFromTwips(form_->OuterHeight());
+    form_->SetOuterSize(TwipsFromPixels(width), TwipsFromPixels(height));
+    const int roomAcross = std::max(0, form_->AreaWidth() - width);
+    const int roomDown = std::max(0, form_->AreaHeight() - height);
+    const int left = placed_ ? PixelsFromTwips(form_->Left()) : 0;
+    const int top = placed_ ? bottom - height : roomDown;
+    form_->SetPlace(TwipsFromPixels(std::clamp(left, 0, roomAcross)),
+                    TwipsFromPixels(std::clamp(top, 0, roomDown)));
+    placed_ = true;
+}
 
 Skripti::~Skripti() {
     main_.UnohdaKopioitava(this);
@@ -24,36 +107,45 @@ bool Skripti::AjaValikosta(const std::string& text, ToolUser& user) {
 // A second run may start within a first one, as everything stays usable meanwhile; the end of the
 // second then ends both.
 bool Skripti::AjaOhjelma(const std::string& text, bool NaytaMuuttujat, ToolUser& user) {
-    form_->SetExecuteCaption("Stop");
+    Toteuta->SetCaption("Stop");
     ToolSurroundings surroundings{user};
     surroundings.unseen = main_.Services().unseen;
     if (NaytaMuuttujat) {
-        surroundings.showVariables = [this](const std::string& list) { form_->SetVariables(list); };
+        surroundings.showVariables = [this](const std::string& list) {
+            MuuttujienArvot->SetText(list);
+        };
     }
     surroundings.showWindow = [this] { MuutaSkriptiKoko("iso"); };
     const bool ended = ToolRun(main_, surroundings).AjaOhjelma(text);
-    form_->SetExecuteCaption("Execute");
+    Toteuta->SetCaption("Execute");
     return ended;
 }
 
 void Skripti::MuutaSkriptiKoko(std::string_view koko) {
     const bool small = koko == "pieni" || (koko != "iso" && !SkriptiPieni);
     SkriptiPieni = small;
+    Arrange();
     if (small) {
-        form_->ShowSmall();
-    } else {
-        form_->ShowFull();
+        SetOuterSize(kSmallWidth, kSmallHeight);
+        form_->ShowBeside();
+        return;
     }
+    SetOuterSize(kFullWidth, kFullHeight);
+    // Title and edges come on top.
+    SetOuterSize(2 * kFullWidth - form_->ScaleWidth(), 2 * kFullHeight - form_->ScaleHeight());
+    Arrange();
+    form_->Show();
+    Teksti->SetFocus();
 }
 
 void Skripti::Toteuta_Click() {
     if (SkriptiKaynnissa) {
         SkriptiKaynnissa = false;
-        form_->SetExecuteCaption("Execute");
+        Toteuta->SetCaption("Execute");
         return;
     }
     DialogToolUser user(main_.Services().dialogs);
-    AjaOhjelma(form_->Text() + "\r\n", true, user);
+    AjaOhjelma(Teksti->Text() + "\r\n", true, user);
 }
 
 void Skripti::Form_Activate() {
@@ -61,12 +153,8 @@ void Skripti::Form_Activate() {
 }
 
 void Skripti::CopyToClipboard() {
-    const std::string selected = form_->SelectedText();
-    main_.Services().clipboard.SetText(selected.empty() ? form_->Text() : selected);
-}
-
-void Skripti::Teksti_Row(int row) {
-    form_->SetCursorPlace("Row: " + std::to_string(row));
+    const std::string selected = Teksti->SelectedText();
+    main_.Services().clipboard.SetText(selected.empty() ? Teksti->Text() : selected);
 }
 
 void Skripti::Form_MouseMove() {

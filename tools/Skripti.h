@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "mainwindow/CopySource.h"
-#include "platform/ToolForm.h"
+#include "platform/Form.h"
 #include "tools/ToolUser.h"
 
 namespace tessarin {
@@ -14,7 +14,7 @@ namespace tessarin {
 class PaaIkkuna;
 
 /// `Skripti` means script. There is one window, hidden until something is to be seen in it.
-class Skripti : public CopySource, private ToolFormEvents {
+class Skripti : public CopySource, private FormEvents {
   public:
     /// What `AnnaID` gives: no analysis window has this number.
     static constexpr int16_t kId = 999;
@@ -40,17 +40,29 @@ class Skripti : public CopySource, private ToolFormEvents {
   private:
     void Form_Activate() override;
     void Form_QueryUnload() override { form_->Hide(); }
-    void Toteuta_Click() override;
-    void Tyhjenna_Click() override { form_->SetText(""); }
-    void MuutaKokoa_Click() override { MuutaSkriptiKoko(""); }
-    void Teksti_Row(int row) override;
+    void Form_Resize() override { Arrange(); }
     void Form_MouseMove() override;
+    void Toteuta_Click();
+
+    void MakeControls();
+    /// Gives every control its place in the form as it is now.
+    void Arrange();
+    /// Gives the form a size, in pixels, with its lower left corner where it was.
+    void SetOuterSize(int width, int height);
 
     // `NaytaMuuttujat`, show the variables, after each line.
     bool AjaOhjelma(const std::string& text, bool NaytaMuuttujat, ToolUser& user);
 
     PaaIkkuna& main_;
-    std::unique_ptr<ToolForm> form_;
+    std::unique_ptr<Form> form_;
+    std::unique_ptr<TextBox> Teksti;            // the tool's text
+    std::unique_ptr<Button> Toteuta;            // `Toteuta` means execute
+    std::unique_ptr<TextField> KursorinPaikka;  // place of the cursor
+    std::unique_ptr<Button> Tyhjenna;           // clear
+    std::unique_ptr<Button> MuutaKokoa;         // change the size
+    std::unique_ptr<Label> label_;
+    std::unique_ptr<TextBox> MuuttujienArvot;  // values of the variables
+    bool placed_ = false;
     bool SkriptiPieni = true;  // the form is small
 };
 

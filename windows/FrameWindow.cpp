@@ -152,13 +152,17 @@ void FrameWindow::Form_Resize() {
     Piirra();
 }
 
-void FrameWindow::Form_KeyDown(int keyCode) {
-    if (keyCode == kKeyShift) {
+void FrameWindow::Form_MouseMove() {
+    main_.HiiriMuualla();
+}
+
+void FrameWindow::Form_KeyDown(const KeyEvent& key) {
+    if (key.code == kKeyShift) {
         ShiftPainettu = true;
     }
 }
 
-void FrameWindow::Form_KeyUp(int /*keyCode*/) {
+void FrameWindow::Form_KeyUp(const KeyEvent& /*key*/) {
     ShiftPainettu = false;
 }
 

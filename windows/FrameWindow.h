@@ -123,8 +123,9 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     // FormEvents.
     void Form_Activate() override;
     void Form_Resize() override;
-    void Form_KeyDown(int keyCode) override;
-    void Form_KeyUp(int keyCode) override;
+    void Form_KeyDown(const KeyEvent& key) override;
+    void Form_KeyUp(const KeyEvent& key) override;
+    void Form_MouseMove() override;
     void Form_QueryUnload() override;
     void Kuva_MouseDown(const MouseEvent& mouse) override;
     void Kuva_MouseMove(const MouseEvent& mouse) override;

@@ -16,8 +16,12 @@ Statistics::Statistics(PaaIkkuna& main, StatisticsHost& owner, std::vector<Tilas
     : main_(main),
       owner_(owner),
       valikko_(std::move(items)),
-      form_(main.Services().mainForm.MakeGridChild(*this)) {
+      form_(main.Services().mainForm.MakeChild(*this)),
+      grid_(form_->Controls().MakeTable({"MSFlexGrid1", "Statistics"})) {
+    form_->Surface().SetVisible(false);
+    grid_->onRightPress = [this] { ShowMenu(); };
     form_->Show();
+    Form_Resize();
 }
 
 Statistics::~Statistics() {
@@ -98,12 +102,48 @@ std::string Statistics::AnnaKokoStatistiikka(std::string_view format) const {
 void Statistics::Nayta(const std::string& caption, const GridTable& table) {
     table_ = table;
     form_->SetCaption(caption);
-    form_->SetTable(table);
-    int32_t width = kFrameWidth;
-    for (const Twips column : table.columnWidths) {
-        width += column.count;
+    grid_->SetTable(table);
+    FitTo(table);
+}
+
+// The size follows the table, which changes whenever its plot is drawn: that is no reason to bring
+// back a window that the user put away, or to undo the size that he gave it.
+void Statistics::FitTo(const GridTable& table) {
+    if (!form_->HasOwnSize()) {
+        return;
     }
-    form_->SetOuterSize({width}, {GridForm::kRowHeight.count * table.Rows() + kFrameHeight});
+    Fit asked{{kFrameWidth},
+              {kGridRowHeight.count * table.Rows() + kFrameHeight},
+              grid_->NeededWidth(),
+              grid_->NeededHeight()};
+    for (const Twips column : table.columnWidths) {
+        asked.width.count += column.count;
+    }
+    if (asked == asked_ && form_->OuterWidth() == fittedWidth_ &&
+        form_->OuterHeight() == fittedHeight_) {
+        return;
+    }
+    form_->SetOuterSize(asked.width, asked.height);
+    // Title and edges are not equally thick everywhere, and the scroll bars would hide a whole row
+    // for the sake of a few pixels.
+    const int moreWidth = std::max(0, asked.neededWidth - form_->ScaleWidth());
+    const int moreHeight = std::max(0, asked.neededHeight - form_->ScaleHeight());
+    constexpr int kFewPixels = PixelsFromTwips(kGridRowHeight);
+    if (moreWidth < kFewPixels && moreHeight < kFewPixels) {
+        form_->SetOuterSize({asked.width.count + TwipsFromPixels(moreWidth).count},
+                            {asked.height.count + TwipsFromPixels(moreHeight).count});
+    }
+    if (fittedWidth_ == Twips() && !placed_) {
+        form_->MoveIn();
+    }
+    asked_ = asked;
+    fittedWidth_ = form_->OuterWidth();
+    fittedHeight_ = form_->OuterHeight();
+}
+
+void Statistics::AsetaPaikka(Twips left, Twips top) {
+    placed_ = true;
+    form_->SetPlace(left, top);
 }
 
 void Statistics::Form_Activate() {
@@ -115,7 +155,15 @@ void Statistics::Form_QueryUnload() {
     owner_.SuljeStatistiikka();
 }
 
-void Statistics::Grid_RightPress() {
+void Statistics::Form_Resize() {
+    grid_->SetPlace({0, 0, form_->ScaleWidth(), form_->ScaleHeight()});
+}
+
+void Statistics::Form_MouseMove() {
+    main_.HiiriMuualla();
+}
+
+void Statistics::ShowMenu() {
     const auto alive = IkkunatStat(AnnaID()).Window;
     valikko_.back().Teksti = owner_.OnkoTilastoEsikatselussa() ? "Don't show in print preview page"
                                                                : "Show in print preview page";
@@ -129,10 +177,6 @@ void Statistics::Grid_RightPress() {
         StatistiikkaMenuValintaReaktio(item);
         main_.TalletaNakyma("Autosave");
     }
-}
-
-void Statistics::Grid_MouseMove() {
-    main_.HiiriMuualla();
 }
 
 std::string TaulukonTeksti(const GridTable& table) {

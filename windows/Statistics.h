@@ -9,7 +9,7 @@
 
 #include "core/Ikkuna.h"
 #include "mainwindow/CopySource.h"
-#include "platform/GridForm.h"
+#include "platform/Form.h"
 #include "windows/StatisticsItems.h"
 
 namespace tessarin {
@@ -30,7 +30,7 @@ class StatisticsHost {
     virtual void AsetaTilastoEsikatseluun(bool shown) = 0;
 };
 
-class Statistics : public WindowObject, public GridFormEvents, public CopySource {
+class Statistics : public WindowObject, public CopySource, private FormEvents {
   public:
     /// Makes the window for its owner, which must outlive it, and shows it. `items` is what it can
     /// show.
@@ -52,23 +52,40 @@ class Statistics : public WindowObject, public GridFormEvents, public CopySource
 
     /// Shows another table; the window takes the size that it needs.
     void Nayta(const std::string& caption, const GridTable& table);
-    GridForm& Lomake() { return *form_; }
-    Bitmap Picture() const { return form_->Picture(); }
-
-    void Form_Activate() override;
-    void Form_QueryUnload() override;
-    void Grid_RightPress() override;
-    void Grid_MouseMove() override;
+    Bitmap Picture() const { return grid_->Picture(); }
+    Form& Lomake() { return *form_; }
+    /// Moves the frame. A window that nobody has placed comes within the area with its first table.
+    void AsetaPaikka(Twips left, Twips top);
 
   private:
+    void Form_Activate() override;
+    void Form_QueryUnload() override;
+    void Form_Resize() override;
+    void Form_MouseMove() override;
+    void ShowMenu();
+
     int HeaderRows() const;
     std::string OneLine(bool heads) const;
+    void FitTo(const GridTable& table);
 
     PaaIkkuna& main_;
     StatisticsHost& owner_;
     std::vector<TilastoValinta> valikko_;
     GridTable table_;
-    std::unique_ptr<GridForm> form_;
+    std::unique_ptr<Form> form_;
+    std::unique_ptr<Table> grid_;
+    // What the last change of the size was for, and what came of it.
+    struct Fit {
+        Twips width;
+        Twips height;
+        int neededWidth = 0;
+        int neededHeight = 0;
+        friend bool operator==(const Fit&, const Fit&) = default;
+    };
+    Fit asked_;
+    Twips fittedWidth_;
+    Twips fittedHeight_;
+    bool placed_ = false;  // somebody has said where it is to stand
 };
 
 /// All cells, a tab between cells and a line feed between rows.

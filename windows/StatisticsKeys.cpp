@@ -25,7 +25,7 @@ SheetKey StatisticsPart::EnabledKey() {
             }};
 }
 
-SheetFamily StatisticsPart::PlaceKey(std::string_view axis, Twips (GridForm::*read)() const) {
+SheetFamily StatisticsPart::PlaceKey(std::string_view axis, Twips (Form::*read)() const) {
     return {"statistics." + std::string(axis),
             [this, read](const SheetNumbers& /*none*/) {
                 return std::to_string((Avoinna()->Lomake().*read)().count);
@@ -56,8 +56,7 @@ void StatisticsPart::AddKeys(SheetTable& keys, int items) {
         std::iota(numbers.begin(), numbers.end(), 1);
         return numbers;
     };
-    keys.Add([open] { return open(1); },
-             {PlaceKey("x", &GridForm::Left), PlaceKey("y", &GridForm::Top)});
+    keys.Add([open] { return open(1); }, {PlaceKey("x", &Form::Left), PlaceKey("y", &Form::Top)});
     keys.Add([open, items] { return open(items); }, {ColumnKey(items)});
 }
 

@@ -60,12 +60,9 @@ std::string StatisticsPart::AnnaKokoStatistiikka(std::string_view format) const 
 
 void StatisticsPart::LiikutaStatistiikkaLaatikkoa(std::string_view axis, int32_t place) {
     if (Statistics* shown = Avoinna()) {
-        GridForm& form = shown->Lomake();
-        if (axis == "x") {
-            form.SetPlace({place}, form.Top());
-        } else if (axis == "y") {
-            form.SetPlace(form.Left(), {place});
-        }
+        const Form& form = shown->Lomake();
+        shown->AsetaPaikka(axis == "x" ? Twips{place} : form.Left(),
+                           axis == "y" ? Twips{place} : form.Top());
     }
 }
 

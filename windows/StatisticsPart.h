@@ -61,7 +61,7 @@ class StatisticsPart : public StatisticsOwner, public StatisticsTableOwner, priv
     Statistics* Avoinna() const;
     void VaihdaIkkuna(bool open);
     SheetKey EnabledKey();
-    SheetFamily PlaceKey(std::string_view axis, Twips (GridForm::*read)() const);
+    SheetFamily PlaceKey(std::string_view axis, Twips (Form::*read)() const);
     SheetFamily ColumnKey(int items);
 
     // StatisticsHost.

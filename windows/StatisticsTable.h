@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/Tiedosto.h"
-#include "platform/GridForm.h"
+#include "platform/Table.h"
 #include "windows/Statistics.h"
 
 namespace tessarin {

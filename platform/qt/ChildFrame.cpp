@@ -48,7 +48,25 @@ void ChildFrame::SetOuterSize(Twips width, Twips height) {
     if (!HasOwnSize()) {
         window_->showNormal();
     }
-    window_->resize(SizePixels(width), SizePixels(height));
+    const QSize size(SizePixels(width), SizePixels(height));
+    if (!resizable_) {
+        window_->setFixedSize(size);
+    }
+    window_->resize(size);
+}
+
+void ChildFrame::SetResizable(bool resizable) {
+    resizable_ = resizable;
+    if (!window_) {
+        return;
+    }
+    window_->setWindowFlag(Qt::WindowMaximizeButtonHint, resizable);
+    if (resizable) {
+        window_->setMinimumSize(0, 0);
+        window_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    } else {
+        window_->setFixedSize(window_->size());
+    }
 }
 
 Twips ChildFrame::OuterWidth() const {
@@ -86,11 +104,16 @@ void ChildFrame::SetPlace(Twips left, Twips top) {
     }
 }
 
+QSize ChildFrame::AreaSize() const {
+    return window_ && window_->mdiArea() != nullptr ? window_->mdiArea()->viewport()->size()
+                                                    : QSize(0, 0);
+}
+
 void ChildFrame::MoveIn() {
     if (!window_ || window_->mdiArea() == nullptr) {
         return;
     }
-    const QSize room = window_->mdiArea()->viewport()->size() - window_->size();
+    const QSize room = AreaSize() - window_->size();
     window_->move(std::max(0, std::min(window_->x(), room.width())),
                   std::max(0, std::min(window_->y(), room.height())));
 }

@@ -26,6 +26,8 @@ class ChildFrame {
     Twips OuterWidth() const;
     Twips OuterHeight() const;
     bool HasOwnSize() const;
+    /// Whether the user can give it another size.
+    void SetResizable(bool resizable);
     /// Size of the content in pixels, also before the window is shown.
     QSize ClientSize() const;
 
@@ -35,6 +37,8 @@ class ChildFrame {
     void SetPlace(Twips left, Twips top);
     /// Moves it into the area, as far as it has room there; its title bar in any case.
     void MoveIn();
+    /// Size of the area in pixels.
+    QSize AreaSize() const;
 
     void Show();
     /// Shows it while another child stays the active one.
@@ -44,6 +48,7 @@ class ChildFrame {
   private:
     QPointer<ChildWindow> window_;
     QPointer<ActiveChild> active_;
+    bool resizable_ = true;
 };
 
 }  // namespace tessarin

@@ -10,7 +10,28 @@
 namespace tessarin {
 namespace {
 
-constexpr int kOtherKey = 0;
+int CodeOf(int key) {
+    switch (key) {
+        case Qt::Key_Shift:
+            return kKeyShift;
+        case Qt::Key_Escape:
+            return kKeyEscape;
+        case Qt::Key_Backspace:
+            return kKeyBackspace;
+        case Qt::Key_Delete:
+            return kKeyDelete;
+        default:
+            break;
+    }
+    const bool letter = key >= Qt::Key_A && key <= Qt::Key_Z;
+    const bool digit = key >= Qt::Key_0 && key <= Qt::Key_9;
+    return letter || digit ? key : 0;
+}
+
+KeyEvent Translated(const QKeyEvent& key) {
+    return {CodeOf(key.key()), key.modifiers().testFlag(Qt::ShiftModifier),
+            key.modifiers().testFlag(Qt::ControlModifier)};
+}
 
 // The child window at that place of a top-level window; nullptr when there is none.
 ChildWindow* ChildAt(const QWindow& window, const QPoint& place) {
@@ -73,20 +94,22 @@ void ChildInput::KeyMoved(const QKeyEvent& key) {
     }
     if (key.key() == Qt::Key_Shift) {
         TellShift(*child, key.type() == QEvent::KeyPress);
-    } else if (key.type() == QEvent::KeyRelease) {
-        child->Events()->KeyUp(kOtherKey);
+    } else if (key.type() == QEvent::KeyPress) {
+        child->Events()->KeyDown(Translated(key));
+    } else {
+        child->Events()->KeyUp(Translated(key));
     }
 }
 
 void ChildInput::TellShift(ChildWindow& child, bool down) {
     if (holder_ && holder_ != &child && holder_->Events() != nullptr) {
-        holder_->Events()->KeyUp(kKeyShift);
+        holder_->Events()->KeyUp({kKeyShift});
     }
     holder_ = down ? &child : nullptr;
     if (down) {
-        child.Events()->KeyDown(kKeyShift);
+        child.Events()->KeyDown({kKeyShift});
     } else {
-        child.Events()->KeyUp(kKeyShift);
+        child.Events()->KeyUp({kKeyShift});
     }
 }
 

@@ -1,4 +1,4 @@
-// Shift and mouse presses on their way to the child windows.
+// Keys and mouse presses on their way to the child windows.
 #pragma once
 
 #include <QMouseEvent>

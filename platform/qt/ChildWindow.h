@@ -3,6 +3,8 @@
 
 #include <QMdiSubWindow>
 
+#include "platform/Form.h"
+
 namespace tessarin {
 
 /// What a child window hears, whatever it shows. Its form passes on what its receiver wants.
@@ -11,8 +13,8 @@ class ChildEvents {
     virtual ~ChildEvents() = default;
 
     virtual void Activated() = 0;
-    virtual void KeyDown(int keyCode) = 0;
-    virtual void KeyUp(int keyCode) = 0;
+    virtual void KeyDown(const KeyEvent& key) = 0;
+    virtual void KeyUp(const KeyEvent& key) = 0;
     /// The receiver may destroy the form, and itself, during the call.
     virtual void Closing() = 0;
 };

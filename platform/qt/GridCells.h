@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "core/Bitmap.h"
-#include "platform/GridForm.h"
+#include "platform/Table.h"
 
 namespace tessarin {
 
-inline constexpr int kGridRowPixels = PixelsFromTwips(GridForm::kRowHeight);
+inline constexpr int kGridRowPixels = PixelsFromTwips(kGridRowHeight);
 
 /// One cell as it is seen, or a run of cells that are shown as one.
 struct SeenCell {

@@ -23,7 +23,7 @@ void SetRange(QScrollBar& bar, int whole, int shown) {
 
 }  // namespace
 
-GridWidget::GridWidget(GridFormEvents& events) : events_(&events) {
+GridWidget::GridWidget(QWidget* parent) : QAbstractScrollArea(parent) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::ClickFocus);
     setCursor(Qt::ArrowCursor);  // else that of a window edge would stay
@@ -80,8 +80,9 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
         // Qt sends another event after a right press, to a widget that may be gone when a pop-up
         // menu was waited for in between.
         QTimer::singleShot(0, this, [this] {
-            if (events_ != nullptr) {
-                events_->Grid_RightPress();
+            const auto told = onRightPress;
+            if (told) {
+                told();
             }
         });
     }
@@ -89,12 +90,6 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
 
 void GridWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
-}
-
-void GridWidget::mouseMoveEvent(QMouseEvent* /*event*/) {
-    if (events_ != nullptr) {
-        events_->Grid_MouseMove();
-    }
 }
 
 }  // namespace tessarin

@@ -102,7 +102,8 @@ void KuvaWidget::paintEvent(QPaintEvent* event) {
         uncovered -= QRect(kuva_->Left(), kuva_->Top(), kuva_->Width(), kuva_->Height());
     }
     for (const QRect& rest : uncovered) {
-        painter.fillRect(rest, ToQt(kuva_->BackColor()));
+        painter.fillRect(rest,
+                         HasControls() ? palette().window() : QBrush(ToQt(kuva_->BackColor())));
     }
     kuva_->Painted();
 }
@@ -122,7 +123,7 @@ MouseEvent KuvaWidget::Translated(const QMouseEvent& event, MouseButton button) 
 
 void KuvaWidget::mousePressEvent(QMouseEvent* event) {
     const MouseButton button = ButtonOf(event->button());
-    if (events_ == nullptr || button == MouseButton::kNone) {
+    if (events_ == nullptr || button == MouseButton::kNone || !kuva_->IsVisible()) {
         return;
     }
     down_ = button;
@@ -139,22 +140,42 @@ void KuvaWidget::mousePressEvent(QMouseEvent* event) {
     }
 }
 
+// The second press of a double click is a press too: corners are placed as fast as one likes.
 void KuvaWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QPointer<KuvaWidget> self(this);
     mousePressEvent(event);
+    if (self && events_ != nullptr && event->button() == Qt::LeftButton) {
+        events_->Kuva_DoubleClick(Translated(*event, MouseButton::kLeft));
+    }
+}
+
+void KuvaWidget::TellMove() {
+    if (events_ != nullptr) {
+        events_->Form_MouseMove();
+    }
+}
+
+bool KuvaWidget::HasControls() const {
+    return findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
 }
 
 void KuvaWidget::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons() == Qt::NoButton) {
         LoseMouse();
     }
-    if (events_ != nullptr) {
+    if (events_ == nullptr) {
+        return;
+    }
+    if (kuva_->IsVisible()) {
         events_->Kuva_MouseMove(Translated(*event, FirstOf(event->buttons())));
+    } else {
+        events_->Form_MouseMove();
     }
 }
 
 void KuvaWidget::mouseReleaseEvent(QMouseEvent* event) {
     const MouseButton button = ButtonOf(event->button());
-    if (events_ == nullptr || button == MouseButton::kNone) {
+    if (events_ == nullptr || button == MouseButton::kNone || !kuva_->IsVisible()) {
         return;
     }
     if (button == down_) {

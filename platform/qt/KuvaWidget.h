@@ -1,4 +1,5 @@
-// The widget that shows a picture surface and takes the mouse for it; fills a child window.
+// The content of a child window: it shows the picture surface, takes the mouse for it, and holds
+// the controls.
 #pragma once
 
 #include <QWidget>
@@ -17,6 +18,9 @@ class KuvaWidget : public QWidget {
     void Detach();
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, 0}; }
+    /// The mouse moved over it where the surface is not, or over a control in it.
+    void TellMove();
 
   protected:
     bool event(QEvent* event) override;
@@ -29,6 +33,7 @@ class KuvaWidget : public QWidget {
 
   private:
     MouseEvent Translated(const QMouseEvent& event, MouseButton button) const;
+    bool HasControls() const;
     void FollowRatio();
     void LoseMouse();
 

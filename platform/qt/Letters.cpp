@@ -135,4 +135,20 @@ void PaintUpwards(QImage& image, const Letters& letters) {
     painter.drawImage(NearestPixel(letters.x * ratio), start - upwards.height(), upwards);
 }
 
+void PaintTurned(QImage& image, const Letters& letters, int tenths) {
+    constexpr int kMost = 1000;  // characters; a longer text has long left the image
+    if (IsFarAway(letters)) {
+        return;
+    }
+    const Part part = VisiblePart(letters.text, 0, kMost * kCell);
+    if (part.characters.isEmpty()) {
+        return;
+    }
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.translate(letters.x * letters.ratio, letters.y * letters.ratio);
+    painter.rotate(-tenths / 10.0);
+    DrawCells(painter, part, letters);
+}
+
 }  // namespace tessarin

@@ -29,4 +29,7 @@ void PaintAcross(QImage& image, const Letters& letters);
 /// the tops of the letters along x.
 void PaintUpwards(QImage& image, const Letters& letters);
 
+/// The same at any angle, in tenths of a degree to the left around (x, y).
+void PaintTurned(QImage& image, const Letters& letters, int tenths);
+
 }  // namespace tessarin

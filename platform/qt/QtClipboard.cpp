@@ -23,4 +23,9 @@ std::string QtClipboard::Text() const {
     return FromQt(QGuiApplication::clipboard()->text());
 }
 
+Bitmap QtClipboard::Image() const {
+    const QImage image = QGuiApplication::clipboard()->image();
+    return image.isNull() ? Bitmap{} : FromQt(image.convertToFormat(QImage::Format_RGB32));
+}
+
 }  // namespace tessarin

@@ -11,6 +11,7 @@ class QtClipboard : public Clipboard {
     void SetText(std::string_view text) override;
     void SetImage(const Bitmap& image) override;
     std::string Text() const override;
+    Bitmap Image() const override;
 };
 
 }  // namespace tessarin

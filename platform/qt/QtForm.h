@@ -1,4 +1,4 @@
-// A child window that shows a picture surface.
+// A child window: a picture surface, and controls beside or above it.
 #pragma once
 
 #include <QPointer>
@@ -6,6 +6,7 @@
 #include "platform/Form.h"
 #include "platform/qt/ChildFrame.h"
 #include "platform/qt/KuvaWidget.h"
+#include "platform/qt/QtControls.h"
 #include "platform/qt/QtKuva.h"
 
 namespace tessarin {
@@ -22,24 +23,31 @@ class QtForm : public Form, private ChildEvents {
     Twips OuterWidth() const override { return frame_.OuterWidth(); }
     Twips OuterHeight() const override { return frame_.OuterHeight(); }
     bool HasOwnSize() const override { return frame_.HasOwnSize(); }
+    void SetResizable(bool resizable) override { frame_.SetResizable(resizable); }
     Twips Left() const override { return frame_.Left(); }
     Twips Top() const override { return frame_.Top(); }
     void SetPlace(Twips left, Twips top) override { frame_.SetPlace(left, top); }
+    void MoveIn() override { frame_.MoveIn(); }
+    int AreaWidth() const override { return frame_.AreaSize().width(); }
+    int AreaHeight() const override { return frame_.AreaSize().height(); }
     int ScaleWidth() const override { return frame_.ClientSize().width(); }
     int ScaleHeight() const override { return frame_.ClientSize().height(); }
     void Show() override { frame_.Show(); }
+    void ShowBeside() override { frame_.ShowBeside(); }
     void Hide() override { frame_.Hide(); }
     Kuva& Surface() override { return kuva_; }
+    ControlMaker& Controls() override { return controls_; }
 
   private:
     void Activated() override { events_.Form_Activate(); }
-    void KeyDown(int keyCode) override { events_.Form_KeyDown(keyCode); }
-    void KeyUp(int keyCode) override { events_.Form_KeyUp(keyCode); }
+    void KeyDown(const KeyEvent& key) override { events_.Form_KeyDown(key); }
+    void KeyUp(const KeyEvent& key) override { events_.Form_KeyUp(key); }
     void Closing() override { events_.Form_QueryUnload(); }
 
     FormEvents& events_;
     QtKuva kuva_;
     QPointer<KuvaWidget> picture_;  // the frame's
+    QtControlMaker controls_;
     ChildFrame frame_;
 };
 

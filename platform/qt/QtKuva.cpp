@@ -8,6 +8,8 @@
 namespace tessarin {
 namespace {
 
+constexpr int kUpwards = 900;  // tenths of a degree
+
 bool Contains(const PixelRect& outer, const PixelRect& inner) {
     return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
            inner.bottom <= outer.bottom;
@@ -71,10 +73,12 @@ void QtKuva::PaintText(Layer& layer, const TextRun& run) {
     QImage image(static_cast<uchar*>(bytes), layer.Width(), layer.Height(),
                  qsizetype{layer.Width()} * 4, QImage::Format_RGB32);
     const Letters letters{run.text, run.x, run.y, run.color, Ratio()};
-    if (run.rotated) {
-        PaintUpwards(image, letters);
-    } else {
+    if (run.tenths == 0) {
         PaintAcross(image, letters);
+    } else if (run.tenths == kUpwards) {
+        PaintUpwards(image, letters);  // on whole pixels
+    } else {
+        PaintTurned(image, letters, run.tenths);
     }
 }
 

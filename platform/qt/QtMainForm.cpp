@@ -5,9 +5,7 @@
 #include "platform/qt/AboutBox.h"
 #include "platform/qt/Conversions.h"
 #include "platform/qt/QtForm.h"
-#include "platform/qt/QtGridForm.h"
 #include "platform/qt/QtKuva.h"
-#include "platform/qt/QtToolForm.h"
 
 namespace tessarin {
 namespace {
@@ -76,14 +74,6 @@ void QtMainForm::SetPanelButtonEnabled(PanelButton button, bool enabled) {
 
 std::unique_ptr<Form> QtMainForm::MakeChild(FormEvents& events) {
     return std::make_unique<QtForm>(window_->Area(), *active_, events);
-}
-
-std::unique_ptr<GridForm> QtMainForm::MakeGridChild(GridFormEvents& events) {
-    return std::make_unique<QtGridForm>(window_->Area(), *active_, events);
-}
-
-std::unique_ptr<ToolForm> QtMainForm::MakeToolForm(ToolFormEvents& events) {
-    return std::make_unique<QtToolForm>(window_->Area(), *active_, events);
 }
 
 std::unique_ptr<Kuva> QtMainForm::MakeSurface() {

@@ -31,8 +31,6 @@ class QtMainForm : public MainForm {
     void SelectPanelRow(int slot) override;
     void SetPanelButtonEnabled(PanelButton button, bool enabled) override;
     std::unique_ptr<Form> MakeChild(FormEvents& events) override;
-    std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& events) override;
-    std::unique_ptr<ToolForm> MakeToolForm(ToolFormEvents& events) override;
     std::unique_ptr<Kuva> MakeSurface() override;
     void ShowAbout(std::span<const std::string> lines) override;
     Bitmap Snapshot() override;

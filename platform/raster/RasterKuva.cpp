@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "core/Text.h"
 
@@ -213,15 +214,19 @@ void RasterKuva::Print(std::string_view text) {
     if (text.empty()) {
         return;
     }
+    PaintText(Target(), {text, currentX_, currentY_, foreColor_, tenths_});
     const double length = static_cast<double>(Length(text)) * kCharacterWidth;
-    const double across = rotated_ ? kLineHeight : length;
-    const double top = rotated_ ? currentY_ - length : currentY_;
-    const double down = rotated_ ? length : kLineHeight;
-    PaintText(Target(), {text, currentX_, currentY_, foreColor_, rotated_});
+    const double angle = tenths_ * std::numbers::pi / 1800;
+    const double alongX = std::cos(angle) * length;
+    const double alongY = -std::sin(angle) * length;
+    const double downX = std::sin(angle) * kLineHeight;
+    const double downY = std::cos(angle) * kLineHeight;
+    const auto [left, right] = std::minmax({0.0, alongX, downX, alongX + downX});
+    const auto [top, bottom] = std::minmax({0.0, alongY, downY, alongY + downY});
     // Letters may reach a little beyond their cells.
     constexpr int kOverhang = 4;
-    Touch({Device(currentX_) - kOverhang, Device(top) - kOverhang,
-           Device(currentX_ + across) + kOverhang, Device(top + down) + kOverhang});
+    Touch({Device(currentX_ + left) - kOverhang, Device(currentY_ + top) - kOverhang,
+           Device(currentX_ + right) + kOverhang, Device(currentY_ + bottom) + kOverhang});
 }
 
 Bitmap RasterKuva::Image() const {

@@ -39,8 +39,8 @@ class RasterKuva : public Kuva {
                       double height) override;
     void SetCurrent(double x, double y) override;
     void Print(std::string_view text) override;
-    void AsetaKierrettyFontti() override { rotated_ = true; }
-    void PalautaFontti() override { rotated_ = false; }
+    void AsetaKierrettyFontti(int tenths) override { tenths_ = tenths; }
+    void PalautaFontti() override { tenths_ = 0; }
     Bitmap Image() const override;
     void SetPicture(const Bitmap& picture) override;
     void SetMousePointer(MousePointer pointer) override { pointer_ = pointer; }
@@ -55,13 +55,14 @@ class RasterKuva : public Kuva {
     MousePointer Pointer() const { return pointer_; }
 
   protected:
-    /// A text to be drawn: its place in pixels, upwards from there when rotated.
+    /// A text to be drawn: its place in pixels, and the angle at which it leads from there, in
+    /// tenths of a degree to the left.
     struct TextRun {
         std::string_view text;
         double x = 0;
         double y = 0;
         Rgb color;
-        bool rotated = false;
+        int tenths = 0;
     };
 
     /// Draws the letters into `layer`, whose pixels are `Ratio()` to one, 7 pixels a character.
@@ -96,7 +97,7 @@ class RasterKuva : public Kuva {
     int drawWidth_ = 1;
     double currentX_ = 0;
     double currentY_ = 0;
-    bool rotated_ = false;
+    int tenths_ = 0;  // angle of the next text
     MousePointer pointer_ = MousePointer::kNormal;
 
     Layer picture_;

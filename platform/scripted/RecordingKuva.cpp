@@ -30,7 +30,7 @@ bool RecordingKuva::HasText(const std::string& text) const {
 }
 
 void RecordingKuva::PaintText(Layer& /*layer*/, const TextRun& run) {
-    texts.push_back({std::string(run.text), run.x, run.y, run.color, run.rotated});
+    texts.push_back({std::string(run.text), run.x, run.y, run.color, run.tenths});
 }
 
 }  // namespace tessarin

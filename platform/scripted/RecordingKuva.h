@@ -15,7 +15,7 @@ class RecordingKuva : public RasterKuva {
         double x = 0;
         double y = 0;
         Rgb color;
-        bool rotated = false;
+        int tenths = 0;  ///< angle
     };
     struct Stroke {
         double x1 = 0;

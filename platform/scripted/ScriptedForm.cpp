@@ -5,28 +5,28 @@
 
 namespace tessarin {
 
-ScriptedForm::ScriptedForm(FormEvents& events, std::function<void(ScriptedForm*)> gone)
-    : events_(events), gone_(std::move(gone)) {}
+ScriptedForm::ScriptedForm(FormEvents& newEvents, std::function<void(ScriptedForm*)> gone)
+    : events(newEvents), gone_(std::move(gone)) {}
 
 ScriptedForm::~ScriptedForm() {
     gone_(this);
 }
 
-void ScriptedForm::SetOuterSize(Twips width, Twips height) {
-    const bool changed = !(width == width_ && height == height_);
-    width_ = width;
-    height_ = height;
+void ScriptedForm::SetOuterSize(Twips newWidth, Twips newHeight) {
+    const bool changed = !(newWidth == width && newHeight == height);
+    width = newWidth;
+    height = newHeight;
     if (changed && shown) {
-        events_.Form_Resize();
+        events.Form_Resize();
     }
 }
 
 int ScriptedForm::ScaleWidth() const {
-    return std::max(0, PixelsFromTwips(width_) - kFrameWidth);
+    return std::max(0, PixelsFromTwips(width) - kFrameWidth);
 }
 
 int ScriptedForm::ScaleHeight() const {
-    return std::max(0, PixelsFromTwips(height_) - kFrameHeight);
+    return std::max(0, PixelsFromTwips(height) - kFrameHeight);
 }
 
 void ScriptedForm::Show() {
@@ -35,19 +35,24 @@ void ScriptedForm::Show() {
 }
 
 void ScriptedForm::Activate() {
-    events_.Form_Activate();
+    events.Form_Activate();
 }
 
 void ScriptedForm::Press(double x, double y, MouseButton button) {
-    events_.Kuva_MouseDown({button, false, x, y});
+    events.Kuva_MouseDown({button, false, x, y});
+}
+
+void ScriptedForm::DoubleClick(double x, double y) {
+    Press(x, y);
+    events.Kuva_DoubleClick({MouseButton::kLeft, false, x, y});
 }
 
 void ScriptedForm::Move(double x, double y) {
-    events_.Kuva_MouseMove({MouseButton::kNone, false, x, y});
+    events.Kuva_MouseMove({MouseButton::kNone, false, x, y});
 }
 
 void ScriptedForm::Release(double x, double y, MouseButton button) {
-    events_.Kuva_MouseUp({button, false, x, y});
+    events.Kuva_MouseUp({button, false, x, y});
 }
 
 }  // namespace tessarin

@@ -55,19 +55,6 @@ std::unique_ptr<Form> ScriptedMainForm::MakeChild(FormEvents& formEvents) {
     return form;
 }
 
-std::unique_ptr<GridForm> ScriptedMainForm::MakeGridChild(GridFormEvents& formEvents) {
-    auto form = std::make_unique<ScriptedGridForm>(
-        formEvents, [this](ScriptedGridForm* gone) { std::erase(grids, gone); });
-    grids.push_back(form.get());
-    return form;
-}
-
-std::unique_ptr<ToolForm> ScriptedMainForm::MakeToolForm(ToolFormEvents& formEvents) {
-    auto form = std::make_unique<ScriptedToolForm>(formEvents, [this] { tools = nullptr; });
-    tools = form.get();
-    return form;
-}
-
 void ScriptedMainForm::ShowAbout(std::span<const std::string> lines) {
     about.assign(lines.begin(), lines.end());
 }

@@ -7,8 +7,6 @@
 
 #include "platform/MainForm.h"
 #include "platform/scripted/ScriptedForm.h"
-#include "platform/scripted/ScriptedGridForm.h"
-#include "platform/scripted/ScriptedToolForm.h"
 
 namespace tessarin {
 
@@ -27,8 +25,6 @@ class ScriptedMainForm : public MainForm {
     void SelectPanelRow(int slot) override { selectedRows.push_back(slot); }
     void SetPanelButtonEnabled(PanelButton button, bool on) override { buttons[button] = on; }
     std::unique_ptr<Form> MakeChild(FormEvents& formEvents) override;
-    std::unique_ptr<GridForm> MakeGridChild(GridFormEvents& formEvents) override;
-    std::unique_ptr<ToolForm> MakeToolForm(ToolFormEvents& formEvents) override;
     std::unique_ptr<Kuva> MakeSurface() override { return std::make_unique<RecordingKuva>(); }
     void ShowAbout(std::span<const std::string> lines) override;
     Bitmap Snapshot() override { return {}; }
@@ -47,9 +43,7 @@ class ScriptedMainForm : public MainForm {
     std::vector<int> selectedRows;
     std::map<PanelButton, bool> buttons;
     std::vector<std::string> about;
-    std::vector<ScriptedForm*> children;   ///< that exist now, in the order of their making
-    std::vector<ScriptedGridForm*> grids;  ///< likewise
-    ScriptedToolForm* tools = nullptr;     ///< the window of tools, while there is one
+    std::vector<ScriptedForm*> children;  ///< that exist now, in the order of their making
 
   private:
     MenuItem* Find(std::string_view command);

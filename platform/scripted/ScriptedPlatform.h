@@ -18,6 +18,7 @@ class ScriptedClipboard : public Clipboard {
     void SetText(std::string_view newText) override { text = newText; }
     void SetImage(const Bitmap& newImage) override { image = newImage; }
     std::string Text() const override { return text; }
+    Bitmap Image() const override { return image; }
 
     std::string text;
     Bitmap image;

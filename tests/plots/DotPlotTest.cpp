@@ -45,7 +45,7 @@ TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
     EXPECT_EQ(texts[0].x, 118 - 17.5);
     EXPECT_EQ(texts[0].y, 222);
     EXPECT_EQ(texts[1].text, "FL1");
-    EXPECT_TRUE(texts[1].rotated);
+    EXPECT_EQ(texts[1].tenths, 900);
     EXPECT_EQ(texts[1].x, 2);
     EXPECT_EQ(texts[1].y, 118 + 10.5);
 }

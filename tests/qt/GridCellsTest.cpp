@@ -12,11 +12,11 @@ namespace {
 constexpr uint32_t kWhite = 0xffffffff;
 
 GridTable TwoColumns(std::vector<GridRow> rows) {
-    return {{{1500}, GridForm::kColumnWidth}, std::move(rows)};
+    return {{{1500}, kGridColumnWidth}, std::move(rows)};
 }
 
 GridTable ThreeColumns(std::vector<GridRow> rows) {
-    return {{{1500}, GridForm::kColumnWidth, GridForm::kColumnWidth}, std::move(rows)};
+    return {{{1500}, kGridColumnWidth, kGridColumnWidth}, std::move(rows)};
 }
 
 // "text @ left right" of each cell of a row.

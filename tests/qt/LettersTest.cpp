@@ -67,7 +67,7 @@ TEST_P(LettersTest, EachCharacterHasACellOfSevenPixels) {
 
 TEST_P(LettersTest, RotatedTextRunsUpwardsFromItsPlace) {
     Page page(GetParam());
-    page.Kuva().AsetaKierrettyFontti();
+    page.Kuva().AsetaKierrettyFontti(900);
     page.Kuva().SetCurrent(30, 50);
     page.Kuva().Print("I  I");
     EXPECT_GE(*page.Columns().begin(), 30);
@@ -86,7 +86,7 @@ TEST_P(LettersTest, RotatedTextRunsUpwardsFromItsPlace) {
 
 TEST_P(LettersTest, RotatedLettersStandOnTheirRightSide) {
     Page page(GetParam());
-    page.Kuva().AsetaKierrettyFontti();
+    page.Kuva().AsetaKierrettyFontti(900);
     page.Kuva().SetCurrent(30, 50);
     page.Kuva().Print("'");  // ink at the top of the letter only
     ASSERT_FALSE(page.Columns().empty());
@@ -100,7 +100,7 @@ TEST_P(LettersTest, OnlyWhatCanBeSeenIsDrawnAndDrawnInItsPlace) {
         Page tail(GetParam());
         for (Page* page : {&whole, &tail}) {
             if (rotated) {
-                page->Kuva().AsetaKierrettyFontti();
+                page->Kuva().AsetaKierrettyFontti(900);
             }
         }
         const double shift = 7.0 * 1000000;

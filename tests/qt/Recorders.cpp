@@ -27,18 +27,6 @@ void RecordingForm::NoteMouse(const std::string& what, const MouseEvent& mouse) 
          std::to_string(static_cast<int>(mouse.y)));
 }
 
-void RecordingGrid::Form_QueryUnload() {
-    Note("unload");
-    if (!keepsFormOnClose) {
-        form.reset();
-    }
-}
-
-void RecordingGrid::Grid_RightPress() {
-    Note("right");
-    onPress();
-}
-
 void RecordingMain::FilesDropped(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
         Note("dropped " + path);

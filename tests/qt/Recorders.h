@@ -24,43 +24,26 @@ class RecordingForm : public FormEvents {
 
     void Form_Activate() override { Note("activate"); }
     void Form_Resize() override;
-    void Form_KeyDown(int keyCode) override { Note("down " + std::to_string(keyCode)); }
-    void Form_KeyUp(int keyCode) override { Note("up " + std::to_string(keyCode)); }
+    void Form_KeyDown(const KeyEvent& key) override {
+        Note("down " + std::to_string(key.code) + (key.ctrl ? " ctrl" : ""));
+    }
+    void Form_KeyUp(const KeyEvent& key) override { Note("up " + std::to_string(key.code)); }
+    void Form_MouseMove() override { ++moves; }
     void Form_QueryUnload() override;
     void Kuva_MouseDown(const MouseEvent& mouse) override;
     void Kuva_MouseMove(const MouseEvent& mouse) override { NoteMouse("move", mouse); }
     void Kuva_MouseUp(const MouseEvent& mouse) override { NoteMouse("release", mouse); }
+    void Kuva_DoubleClick(const MouseEvent& mouse) override { NoteMouse("double", mouse); }
     void Kuva_MouseLost() override { Note("lost"); }
 
     std::unique_ptr<Form> form;
+    int moves = 0;  // over controls
     bool keepsFormOnClose = false;
     std::function<void()> onPress = [] {};
 
   private:
     void Note(const std::string& what) { log_.push_back(name_ + " " + what); }
     void NoteMouse(const std::string& what, const MouseEvent& mouse);
-
-    std::string name_;
-    Log& log_;
-};
-
-/// The same for a window with a table; moves are only counted.
-class RecordingGrid : public GridFormEvents {
-  public:
-    RecordingGrid(std::string name, Log& log) : name_(std::move(name)), log_(log) {}
-
-    void Form_Activate() override { Note("activate"); }
-    void Form_QueryUnload() override;
-    void Grid_RightPress() override;
-    void Grid_MouseMove() override { ++moves; }
-
-    std::unique_ptr<GridForm> form;
-    int moves = 0;
-    bool keepsFormOnClose = false;
-    std::function<void()> onPress = [] {};
-
-  private:
-    void Note(const std::string& what) { log_.push_back(name_ + " " + what); }
 
     std::string name_;
     Log& log_;

@@ -52,7 +52,7 @@ class SheetTest : public ProgramTest {
     std::vector<std::string> Info(int16_t id) { return IkkunaPaikassa(id)->SaveInfo(); }
     std::vector<std::vector<uint32_t>> Pictures() {
         std::vector<std::vector<uint32_t>> pictures;
-        for (const ScriptedForm* form : platform.mainForm.children) {
+        for (const ScriptedForm* form : PlotForms()) {
             pictures.push_back(form->surface.Image().pixels);
         }
         return pictures;
@@ -122,7 +122,7 @@ TEST_F(SheetTest, WhatIsSavedComesBack) {
     EXPECT_FALSE(Ikkunat(3).Used) << "windows keep their numbers";
     EXPECT_TRUE(Ikkunat(4).Selected && !Ikkunat(1).Selected) << "the last one alone";
     EXPECT_FALSE(Loading);
-    ChoosePopup(*platform.mainForm.children[1], 18);
+    ChoosePopup(*PlotForms()[1], 18);
     const auto& entries = platform.popups.lastEntries;
     EXPECT_EQ(entries[1].caption, "Close statistics");
     EXPECT_EQ(entries[2].caption, "Hide quadrant");
@@ -340,7 +340,7 @@ TEST_F(SheetTest, EventsDuringLoadingFindNoHalfSession) {
     };
     Load(folder_.Path("a.tessarin"));
     EXPECT_FALSE(Ikkunat(1).Used) << "a window may go while others come";
-    EXPECT_EQ(platform.mainForm.children.size(), 3U);
+    EXPECT_EQ(PlotForms().size(), 3U);
     EXPECT_FALSE(Closing);
 }
 

@@ -65,6 +65,13 @@ class ProgramTest : public testing::Test {
     void Choose(std::string_view command) { platform.mainForm.events->Command(command); }
     /// The form of the window made last.
     ScriptedForm& LastForm() { return *platform.mainForm.children.back(); }
+    /// The forms of statistics windows, and all others, in the order of their opening.
+    std::vector<ScriptedForm*> TableForms() const { return Forms(true); }
+    std::vector<ScriptedForm*> PlotForms() const { return Forms(false); }
+    /// The table of the one opened last.
+    ScriptedTable& Grid() const {
+        return TableForms().back()->controls.Get<ScriptedTable>("MSFlexGrid1");
+    }
     ScriptedForm& NewDotPlot() {
         Choose("CreateDotPlot");
         return LastForm();
@@ -77,6 +84,17 @@ class ProgramTest : public testing::Test {
 
     ScriptedPlatform platform;
     PaaIkkuna main{platform.Services()};
+
+  private:
+    std::vector<ScriptedForm*> Forms(bool tables) const {
+        std::vector<ScriptedForm*> forms;
+        for (ScriptedForm* form : platform.mainForm.children) {
+            if (form->controls.Has("MSFlexGrid1") == tables) {
+                forms.push_back(form);
+            }
+        }
+        return forms;
+    }
 };
 
 }  // namespace tessarin

@@ -29,6 +29,9 @@ class PreviewPage {
     /// Whether it is shown.
     virtual bool OnkoNakyvissa() const = 0;
     virtual void Piirra() = 0;
+    /// `Tulosta` means print: sends the page to the printer that was chosen last. Gives what went
+    /// wrong; empty for success.
+    virtual std::string Tulosta() = 0;
 };
 
 /// The tools that are installed beside the program.

@@ -3,15 +3,10 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace tessarin {
 
 class PaaIkkuna;
-
-/// `TeeLista` means make the list: names of the data files in a folder, in the order that the
-/// file system gives them. Empty for a folder that is empty or cannot be read.
-std::vector<std::string> TeeLista(const std::string& folder);
 
 /// Opens the first data file of a folder in that window. False when there is none or it was
 /// refused; the window then stays as it is.

@@ -18,6 +18,13 @@ void RekisteroiIkkunaLaji(WindowKind kind) {
     Kinds().insert_or_assign(std::move(type), std::move(kind));
 }
 
+void PoistaIkkunaLaji(std::string_view type) {
+    const auto found = Kinds().find(type);
+    if (found != Kinds().end()) {
+        Kinds().erase(found);
+    }
+}
+
 const WindowKind* EtsiLaji(std::string_view type) {
     const auto found = Kinds().find(type);
     return found == Kinds().end() ? nullptr : &found->second;

@@ -22,6 +22,8 @@ struct WindowKind {
 
 /// Adds a kind, or replaces the one of that type. Called once for each kind at program start.
 void RekisteroiIkkunaLaji(WindowKind kind);
+/// Takes a kind out again.
+void PoistaIkkunaLaji(std::string_view type);
 
 /// By type or by command; nullptr when there is none.
 const WindowKind* EtsiLaji(std::string_view type);

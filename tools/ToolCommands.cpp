@@ -105,8 +105,13 @@ void CloseReport(ToolRun& run, const ToolLine& /*line*/) {
 void PrintPage(ToolRun& run, const ToolLine& /*line*/) {
     if (!run.TulostinAsetettu) {
         run.Keskeyta("The printer has not been set! Aborting.");
-    } else {
-        run.Main().Huomauta("There is no page to print.");  // nothing composes one so far
+        return;
+    }
+    PreviewPage* page = run.Main().Kumppanit().preview;
+    const std::string failure =
+        page == nullptr ? std::string("There is no page to print.") : page->Tulosta();
+    if (!failure.empty()) {
+        run.Main().Huomauta(failure);
     }
 }
 

@@ -8,7 +8,7 @@
 #include "core/Numbers.h"
 #include "core/Projektio.h"
 #include "core/Text.h"
-#include "mainwindow/FileNavigation.h"
+#include "mainwindow/FolderList.h"
 #include "mainwindow/WindowList.h"
 #include "tools/ToolLine.h"
 #include "tools/ToolRun.h"

@@ -1,0 +1,82 @@
+// The session is on disk at every step, and comes back after a run that ended badly.
+#include "SheetFixture.h"
+
+namespace tessarin {
+namespace {
+
+class AutosaveTest : public SheetTest {
+  protected:
+    AutosaveTest() { platform.programFolder = folder_.Path(); }
+
+    /// A program started in that folder, as main does it.
+    struct Program {
+        explicit Program(ScriptedPlatform& platform)
+            : main(platform.Services()), store(main, true) {
+            main.Kumppanit().views = &store;
+            main.Kaynnista();
+        }
+        PaaIkkuna main;
+        SheetStore store;
+    };
+    std::string file_ = folder_.Path("autosave.tessarin");
+};
+
+TEST_F(AutosaveTest, EveryStepIsOnDiskUntilTheProgramEnds) {
+    const std::string data = DataFile("one.fcs", 1);
+    {
+        Program first(platform);
+        EXPECT_TRUE(platform.dialogs.questions.empty());
+        EXPECT_FALSE(fs::exists(file_));
+        first.main.AvaaTiedosto(data);
+        EXPECT_NE(Bytes(file_).find("window.1.type:DotPlot"), std::string::npos);
+        ChoosePopup(LastForm(), 3);
+        EXPECT_NE(Bytes(file_).find("density.enabled:1"), std::string::npos);
+        PalautaAlkutila();  // killed: nothing is put away
+    }
+    platform.dialogs.answers = {false};
+    {
+        Program second(platform);
+        EXPECT_EQ(platform.dialogs.questions.back().text,
+                  "Tessarin was not closed properly. You want to recover the view?");
+        EXPECT_EQ(platform.dialogs.questions.back().title, "Recovery");
+        EXPECT_FALSE(Ikkunat(1).Used);
+        EXPECT_TRUE(fs::exists(file_)) << "it stays until the next step";
+        PalautaAlkutila();
+    }
+    Program third(platform);
+    EXPECT_EQ(Info(1)[11], "density.enabled:1");
+    EXPECT_EQ(Tiedostot(1).Path(), data);
+    third.main.Command("FileExit");
+    EXPECT_FALSE(fs::exists(file_));
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, ProgramsSideBySideKeepTheirOwn) {
+    folder_.Write("autosave.tessarin", "of the other");
+    platform.locks.others = {file_ + ".lock"};
+    folder_.Write("autosave.tessarin.lock", "");
+    Program program(platform);
+    EXPECT_TRUE(platform.dialogs.questions.empty());
+    program.main.Command("CreateDotPlot");
+    EXPECT_EQ(Bytes(file_), "of the other");
+    EXPECT_TRUE(fs::exists(folder_.Path("autosave-2.tessarin")));
+    program.main.Command("FileExit");
+    EXPECT_EQ(Bytes(file_), "of the other");
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, FailuresAreToldOnceAndWorkGoesOn) {
+    Program program(platform);
+    fs::remove_all(folder_.Path());
+    program.main.Command("CreateDotPlot");
+    program.main.Command("CreateHistogram");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "An error occured during the saving!");
+    fs::create_directory(folder_.Path());
+    program.main.Command("CreateDotPlot");
+    EXPECT_TRUE(fs::exists(file_));
+    PalautaAlkutila();
+}
+
+}  // namespace
+}  // namespace tessarin

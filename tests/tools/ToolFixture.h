@@ -1,0 +1,67 @@
+// Runs lines of the tool language, for tests of it.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include "core/Text.h"
+#include "mainwindow/WindowList.h"
+#include "tests/support/FcsBuilder.h"
+#include "tests/support/ProgramFixture.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tools/AnswerToolUser.h"
+#include "tools/Skripti.h"
+#include "tools/ToolList.h"
+#include "tools/ToolPack.h"
+#include "tools/ToolRun.h"
+
+namespace tessarin {
+
+class ToolRunTest : public ProgramTest {
+  protected:
+    /// Runs lines; "~" stands for a line end. What `output.write` wrote comes back, with "|" for
+    /// each line end.
+    std::string Run(const std::string& lines) {
+        const std::string path = folder_.Path("report");
+        std::filesystem::remove(path);
+        AnswerToolUser user(answers_, platform.dialogs, nullptr, log_);
+        platform.dialogs.messages.clear();
+        ToolSurroundings surroundings{user};
+        surroundings.showVariables = [this](const std::string& list) { shown_ = list; };
+        surroundings.unseen = unseen_;
+        ToolRun run(main, surroundings);
+        const std::string head = "folder.set:" + folder_.Path() + "~output.set:report~";
+        ended_ = run.AjaOhjelma(KorvaaTeksti(head + lines + "~", "~", "\r\n"));
+        EXPECT_FALSE(SkriptiKaynnissa);
+        std::ifstream in(path, std::ios::binary);
+        return KorvaaTeksti(std::string{std::istreambuf_iterator<char>(in), {}}, "\r\n", "|");
+    }
+    /// The message that the run stopped with; empty when it did not.
+    std::string Fails(const std::string& lines) {
+        Run(lines);
+        EXPECT_EQ(ended_, platform.dialogs.messages.empty()) << lines;
+        return ended_ ? "" : platform.dialogs.messages.back().text;
+    }
+    static std::string Fault(int line) {
+        return "There is an error in the code on line " + std::to_string(line + 2) + ". Aborting.";
+    }
+    /// Window 1 is a dot plot and window 2 a histogram on a file of four events.
+    void OpenPlots() {
+        PutFile(1, "tube.fcs",
+                {{"a", false, 1000, {100, 200, 300, 800}}, {"b", true, 10000, {1, 10, 100, 1000}}});
+        Tiedostot(1).Otsikko.SampleId = "S 1";
+        CurrentFile = 1;
+        NewDotPlot();
+        Choose("CreateHistogram");
+    }
+
+    TemporaryFolder folder_;
+    AnswerToolUser::Answers answers_;
+    std::ostringstream log_;
+    std::string shown_;
+    bool ended_ = false;
+    bool unseen_ = false;
+};
+
+}  // namespace tessarin

@@ -23,9 +23,10 @@ class AnalysisWindow : public WindowObject, public CopySource {
     /// Redraws the window. Draws nothing while it has no file or a sheet is being loaded.
     virtual void Piirra() = 0;
     /// `PiirraLykatty` means draw what was put off: the picture that the last `Piirra` left out
-    /// because `LykkaaPiirto` was True then. Until then the surface is that of an earlier redraw;
-    /// numbers, tables and titles are of the last one. Whoever puts pictures off has them drawn
-    /// before anything that they show changes.
+    /// because `LykkaaPiirto` was True then, or that it drew thinned while the user was resizing
+    /// the window. Whatever is to leave the window calls it first. Until then the surface is that
+    /// of an earlier redraw; numbers, tables and titles are of the last one. Whoever puts pictures
+    /// off has them drawn before anything that they show changes.
     virtual void PiirraLykatty() {}
     /// Adapts the window to a file that was just put into it.
     virtual void LatauksenJalkeen() = 0;

@@ -1,5 +1,6 @@
 #include "mainwindow/FolderList.h"
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <string_view>
@@ -7,6 +8,7 @@
 #include <utility>
 
 #include "core/FCSReader.h"
+#include "core/NaturalOrder.h"
 
 namespace tessarin {
 namespace {
@@ -17,7 +19,7 @@ namespace fs = std::filesystem;
 // a thousand times, and looking at its date is much quicker than looking at every file.
 class KnownFolders {
   public:
-    /// The names of its data files, in the order that the file system gives them.
+    /// The names of its data files, in order.
     std::vector<std::string> DataFiles(const std::string& folder) {
         std::error_code error;
         const Time written = fs::last_write_time(folder, error);
@@ -77,6 +79,7 @@ class KnownFolders {
             LookAgain(folder, file);
             files.push_back(std::move(file));
         }
+        std::ranges::sort(files, NaturalLess, &File::name);
         return files;
     }
 

@@ -158,11 +158,10 @@ void PaaIkkuna::BackgroundMouseMove() {
     if (KokoaMuutetaan == 0) {
         return;
     }
-    const auto window = IkkunaPaikassa(KokoaMuutetaan);
-    KokoaMuutetaan = 0;
-    if (window != nullptr) {
-        window->Piirra();
+    if (const auto window = IkkunaPaikassa(KokoaMuutetaan)) {
+        window->PiirraLykatty();
     }
+    KokoaMuutetaan = 0;
 }
 
 void PaaIkkuna::FreezePanel(bool frozen) {

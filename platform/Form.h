@@ -43,8 +43,8 @@ class FormEvents {
     /// The user closes the form. It is gone, or hidden, when the call returns; the receiver may
     /// destroy the form, and itself, during the call.
     virtual void Form_QueryUnload() = 0;
-    /// The client area has another size now.
-    virtual void Form_Resize() {}
+    /// The client area has another size now, by the user's hand or by what the program did.
+    virtual void Form_Resize(bool /*byUser*/) {}
     /// Keys while the form is the active child.
     virtual void Form_KeyDown(const KeyEvent& /*key*/) {}
     virtual void Form_KeyUp(const KeyEvent& /*key*/) {}
@@ -66,8 +66,9 @@ class Form {
 
     virtual void SetCaption(std::string_view caption) = 0;
 
-    /// Outer size, frame and title included. While the form is minimised or fills the main window
-    /// size and place are those that it goes back to.
+    /// Outer size, frame and title included. What was set is what is read again, whatever pixels
+    /// came of it, until the user changes it; the same goes for the place. While the form is
+    /// minimised or fills the main window size and place are those that it goes back to.
     virtual void SetOuterSize(Twips width, Twips height) = 0;
     virtual Twips OuterWidth() const = 0;
     virtual Twips OuterHeight() const = 0;

@@ -1,7 +1,5 @@
 #include "plots/BinnedChannel.h"
 
-#include <algorithm>
-
 #include "core/Numbers.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "plots/Axes.h"
@@ -23,10 +21,8 @@ void BinnedChannel::PiirraHuippu(const PlotArea& area) const {
     PiirraYSkaala(window_.Surface(), area, " " + NumberText(Int(static_cast<double>(Korkein))));
 }
 
-std::size_t BinnedChannel::BinAt(float grid) const {
-    const double last = static_cast<double>(Histo.size()) - 1;
-    const double bin = Int(static_cast<double>(grid) / kGrid * Resoluutio);
-    return static_cast<std::size_t>(std::clamp(bin, 0.0, last));
+double BinnedChannel::BinAt(float grid) const {
+    return Int(static_cast<double>(grid) / kGrid * Resoluutio);
 }
 
 WindowMenuItem BinnedChannel::ScaleItem() {

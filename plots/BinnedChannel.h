@@ -31,8 +31,8 @@ class BinnedChannel {
     /// The top of the y scale at the last redraw, and the one asked for: 0 for automatic.
     float Huippu() const { return Korkein; }
     int32_t Skaala() const { return YSkaala; }
-    /// The bin at a grid place, within the bins there are. REQUIRES: there are some.
-    std::size_t BinAt(float grid) const;
+    /// The bin at a grid place, also one before the first or behind the last.
+    double BinAt(float grid) const;
 
     /// "Set Y scale", "Set smoothing" and "Change color".
     WindowMenuItem ScaleItem();

@@ -1,5 +1,7 @@
 #include "plots/Histogram.h"
 
+#include <algorithm>
+
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "mainwindow/PaaIkkuna.h"
@@ -92,11 +94,13 @@ int32_t Histogram::AnnaHistonKorkeinKohta(std::string_view mode, int16_t marker)
     if (bins.empty() || marker < 1 || marker > MaxPopulations) {
         return 0;
     }
+    // A marker may reach beyond the bins, or lie there wholly.
     const Populaatio& place = Populaatiot(marker);
-    const std::size_t last = bins_.BinAt(place.X[2]);
+    const double end = std::min(bins_.BinAt(place.X[2]), static_cast<double>(bins.size()) - 1);
     double highest = 0;
     std::size_t bin = 0;
-    for (std::size_t i = bins_.BinAt(place.X[1]); i <= last; ++i) {
+    for (double at = std::max(0.0, bins_.BinAt(place.X[1])); at <= end; ++at) {
+        const auto i = static_cast<std::size_t>(at);
         if (bins[i] > highest) {
             highest = bins[i];
             bin = i;

@@ -12,7 +12,7 @@
 #include "core/BusyPointer.h"
 #include "core/Muuttujat.h"
 #include "core/Text.h"
-#include "populations/DefinitionArithmetic.h"
+#include "populations/DefinitionLogic.h"
 #include "populations/DefinitionWords.h"
 
 namespace tessarin {
@@ -64,19 +64,25 @@ std::optional<std::string> FirstUnknownWord(const std::string& work, const Names
     return std::nullopt;
 }
 
-// An expression on its way to arithmetic.
+// An expression with a letter for each name and a sign for each keyword.
 struct Work {
     std::string text;
     std::vector<int16_t> slots;  // of the names, in the order of the text; one for each occurrence
 };
 
-// Puts a letter in the place of each name. Nothing when there are too many of them, or when a
-// parenthesis cuts a name in two.
+char SignOf(std::string_view keyword) {
+    if (keyword == "not") {
+        return '-';
+    }
+    return keyword == "and" ? '*' : '+';
+}
+
+// Nothing when there are too many names, or when a parenthesis cuts one in two.
 std::optional<Work> AssignLetters(std::string_view text, const Names& names) {
     Work work;
     WordScanner scanner(text);
     while (true) {
-        work.text += scanner.Gap();
+        work.text += Without(scanner.Gap(), " ");
         const std::string_view word = scanner.Word();
         if (word.empty()) {
             return work;
@@ -86,7 +92,7 @@ std::optional<Work> AssignLetters(std::string_view text, const Names& names) {
             work.slots.push_back(slot);
             work.text += static_cast<char>('a' - 1 + slot);
         } else if (OnkoAvainsana(word)) {
-            work.text += word;
+            work.text += SignOf(word);
         }
         if ((slot == 0 && !OnkoAvainsana(word)) || work.slots.size() > MaxPopulations) {
             return std::nullopt;
@@ -94,36 +100,12 @@ std::optional<Work> AssignLetters(std::string_view text, const Names& names) {
     }
 }
 
-// "not" and the piece behind it become a difference from 1.
-std::string RewriteNot(const std::string& text) {
-    if (text.find("not ") == std::string::npos) {
-        return text;
-    }
-    std::string rewritten;
-    bool closing = false;
-    for (const std::string_view piece : Split(text, ' ')) {
-        const bool opens = piece == "not";
-        rewritten += opens ? "(1-" : piece;
-        rewritten += closing ? ") " : " ";
-        closing = opens;
-    }
-    return rewritten;
-}
-
-// A keyword in a place where it means nothing stays; its letters stand side by side, which is no
-// arithmetic, so they never pass for names.
-std::string Arithmetic(const std::string& text) {
-    return Without(KorvaaTeksti(KorvaaTeksti(RewriteNot(text), " and ", "*"), " or ", "+"), " ");
-}
-
 // `Totuustaulu` means truth table: row r holds the result when bit n of r tells whether an event
-// is in the n-th name's population, counted from 0. "+" counts twice what is on both its sides,
-// so all above 1 is true. A negated group can go below 0, when more is taken away than was there:
-// that is false.
-std::vector<uint8_t> Totuustaulu(const Laskulauseke& arithmetic) {
-    std::vector<uint8_t> rows(std::size_t{1} << static_cast<unsigned>(arithmetic.Tuntemattomia()));
+// is in the n-th name's population, counted from 0.
+std::vector<uint8_t> Totuustaulu(const Totuuslauseke& logic) {
+    std::vector<uint8_t> rows(std::size_t{1} << static_cast<unsigned>(logic.Tuntemattomia()));
     for (std::size_t row = 0; row < rows.size(); ++row) {
-        rows[row] = arithmetic.Arvo(static_cast<uint32_t>(row)) >= 1 ? 1 : 0;
+        rows[row] = logic.Arvo(static_cast<uint32_t>(row)) ? 1 : 0;
     }
     return rows;
 }
@@ -163,13 +145,12 @@ std::string TarkistaMaaritelma(int16_t slot, std::string_view expression) {
         return std::string(kUnknownWord) + *unknown;
     }
     const auto work = AssignLetters(small, names);
-    const auto arithmetic =
-        work ? Laskulauseke::Lue(Arithmetic(work->text)) : std::optional<Laskulauseke>();
-    if (!arithmetic) {
+    const auto logic = work ? Totuuslauseke::Lue(work->text) : std::optional<Totuuslauseke>();
+    if (!logic) {
         return std::string(kProblem);
     }
-    assert(arithmetic->Tuntemattomia() == static_cast<int>(work->slots.size()));
-    const std::vector<uint8_t> rows = Totuustaulu(*arithmetic);
+    assert(logic->Tuntemattomia() == static_cast<int>(work->slots.size()));
+    const std::vector<uint8_t> rows = Totuustaulu(*logic);
     for (Tiedosto& file : Tiedostot) {
         if (file.Valid) {
             Apply(file, slot, work->slots, rows);

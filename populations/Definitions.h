@@ -17,8 +17,8 @@ namespace tessarin {
 /// Otherwise the message for the user, and nothing is changed. The fields of the slot itself stay
 /// as they are in either case.
 ///
-/// "and" goes before "or". "not" belongs to the one word behind it, so a group cannot be negated:
-/// "not (a or b)" is worked out as (1 - (a) + b), and "(not a)" is refused.
+/// "and" goes before "or"; "not" belongs to the name or the group behind it and gives what that
+/// leaves out.
 /// REQUIRES: slot is MaxPopulations + 1 to kPopulationSlots.
 std::string TarkistaMaaritelma(int16_t slot, std::string_view expression);
 

@@ -86,21 +86,25 @@ void PopulationCommands::LuoUusiMaaritelma() {
                       "Definition already defined", QuestionButtons::kOkCancel)) {
         return;
     }
-    const std::string expression = dialogs_.Input(
-        "Create a new definition (case insensitive)\n"
-        "Examples:\n"
-        "  Poly-1 and Poly-2\n"
-        "  Poly-1 and (Histo-2 or Poly-3)\n"
-        "  Poly-1 and Histo-2 and not Poly-3",
-        "Create definition", definition.Defined ? definition.Name : "");
-    if (expression.empty()) {
-        return;
-    }
-    const std::string failure = TarkistaMaaritelma(slot, expression);
-    if (!failure.empty()) {
-        dialogs_.Message(failure, "Create definition");
-        return;
-    }
+    std::string expression = definition.Defined ? definition.Name : "";
+    std::string failure;
+    do {
+        // What was refused stands in the box again, to be mended.
+        expression = dialogs_.Input(
+            "Create a new definition (case insensitive)\n"
+            "Examples:\n"
+            "  Poly-1 and Poly-2\n"
+            "  Poly-1 and (Histo-2 or Poly-3)\n"
+            "  Poly-1 and Histo-2 and not Poly-3",
+            "Create definition", expression);
+        if (expression.empty()) {
+            return;
+        }
+        failure = TarkistaMaaritelma(slot, expression);
+        if (!failure.empty()) {
+            dialogs_.Message(failure, "Create definition");
+        }
+    } while (!failure.empty());
     definition.Name = expression;
     definition.Defined = true;
     ShowChange();

@@ -40,7 +40,7 @@ class Skripti : public CopySource, private FormEvents {
   private:
     void Form_Activate() override;
     void Form_QueryUnload() override { form_->Hide(); }
-    void Form_Resize() override { Arrange(); }
+    void Form_Resize(bool /*byUser*/) override { Arrange(); }
     void Form_MouseMove() override;
     void Toteuta_Click();
 

@@ -1,7 +1,9 @@
 #include "tools/ToolList.h"
 
+#include <algorithm>
 #include <filesystem>
 
+#include "core/NaturalOrder.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "tools/Skripti.h"
 #include "tools/ToolPack.h"
@@ -19,6 +21,7 @@ ToolList::ToolList(PaaIkkuna& main, Skripti& window)
             tools_.push_back({name.substr(0, name.find('.')), std::move(name)});
         }
     }
+    std::ranges::sort(tools_, NaturalLess, &SkriptiTieto::TiedostoNimi);
 }
 
 std::vector<std::string> ToolList::Nimet() const {

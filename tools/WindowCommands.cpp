@@ -45,6 +45,7 @@ Role& Must(Role* role) {
 }
 
 void SaveImage(const Call& call) {
+    call.window.PiirraLykatty();
     Must(TalletaKuva(call.window.Lomake().Surface().Image(), call.run.Polku(call.Text())).empty());
 }
 

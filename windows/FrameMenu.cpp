@@ -33,6 +33,7 @@ WindowMenuItem FrameWindow::CopyItem(std::string_view caption) {
 }
 
 void FrameWindow::CopyToClipboard() {
+    PiirraLykatty();
     main_.Services().clipboard.SetImage(Surface().Image());
 }
 
@@ -46,6 +47,7 @@ void FrameWindow::SaveImage() {
     if (path.empty()) {
         return;
     }
+    PiirraLykatty();
     const std::string failure = TalletaKuva(Surface().Image(), path);
     if (!failure.empty()) {
         main_.Services().dialogs.Message(failure, "Save the image");

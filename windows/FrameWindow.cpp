@@ -75,7 +75,15 @@ void FrameWindow::AsetaPaalle(bool paalla) {
     Surface().SetAutoRedraw(!paalla);
 }
 
+// Whoever asks for a redraw gets the full one; only a resize draws thinned.
 void FrameWindow::Piirra() {
+    if (OnkoKokoMuuttumassa()) {
+        KokoaMuutetaan = 0;
+    }
+    Redraw();
+}
+
+void FrameWindow::Redraw() {
     if (!ready_ || !HasPicture() || (Loading && !kind_.drawsWhileLoading)) {
         return;
     }
@@ -98,6 +106,9 @@ void FrameWindow::Piirra() {
 }
 
 void FrameWindow::PiirraLykatty() {
+    if (OnkoKokoMuuttumassa()) {
+        Piirra();
+    }
     if (std::exchange(lykatty_, false) && HasPicture()) {
         Paint();
     }
@@ -136,7 +147,7 @@ void FrameWindow::Form_Activate() {
     AktivoiIkkuna(main_, ID);
 }
 
-void FrameWindow::Form_Resize() {
+void FrameWindow::Form_Resize(bool byUser) {
     if (!ready_) {
         return;
     }
@@ -146,10 +157,33 @@ void FrameWindow::Form_Resize() {
     if (form_->HasOwnSize() && !kind_.sizeGroup.empty()) {
         OletusKoko(kind_.sizeGroup) = {form_->OuterWidth().count, form_->OuterHeight().count};
     }
-    if (kind_.thinsWhileResized && !Loading) {
-        KokoaMuutetaan = ID;
+    if (byUser && kind_.thinsWhileResized && !Loading) {
+        AwaitRest();
+        Redraw();
+    } else {
+        Piirra();
     }
-    Piirra();
+}
+
+// Another window may still wait for its full redraw, as when the main window is resized with one
+// that fills it; there is room for one only.
+void FrameWindow::AwaitRest() {
+    constexpr int kRest = 300;  // milliseconds
+    if (KokoaMuutetaan != ID) {
+        if (const auto other = IkkunaPaikassa(KokoaMuutetaan)) {
+            other->Piirra();
+        }
+    }
+    KokoaMuutetaan = ID;
+    if (rest_ == nullptr) {
+        rest_ = main_.Services().timers.Make([this] {
+            rest_->SetEnabled(false);
+            PiirraLykatty();
+        });
+        rest_->SetInterval(kRest);
+    }
+    rest_->SetEnabled(false);  // counts from the start again
+    rest_->SetEnabled(true);
 }
 
 void FrameWindow::Form_MouseMove() {
@@ -191,7 +225,6 @@ void FrameWindow::Kuva_MouseDown(const MouseEvent& mouse) {
 void FrameWindow::Kuva_MouseMove(const MouseEvent& mouse) {
     main_.HiiriMuualla();
     if (OnkoKokoMuuttumassa()) {
-        KokoaMuutetaan = 0;
         Piirra();
     }
     Moved(mouse);

@@ -21,6 +21,8 @@ namespace tessarin {
 
 class PaaIkkuna;
 
+class Timer;
+
 /// How a kind of window differs in words, size and habits.
 struct FrameKind {
     std::string_view emptyTitle;      ///< behind "(id): " while no file is in it
@@ -32,7 +34,7 @@ struct FrameKind {
     Twips height{4000};
     bool selectable = true;  ///< can be selected and receive a file
     bool drawsWhileLoading = false;
-    bool thinsWhileResized = true;  ///< and waits for the mouse with the full redraw
+    bool thinsWhileResized = true;  ///< by the user, until the size has rested or the mouse moves
     bool autosaves = true;          ///< after each full redraw
 };
 
@@ -60,7 +62,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     /// The file in the window; nullptr when there is none.
     const Tiedosto* File() const;
     Tausta& Background() { return tausta_; }
-    /// Whether it was resized and waits for the mouse with its full redraw.
+    /// Whether the user is resizing it, and its full redraw waits until the size has rested.
     bool OnkoKokoMuuttumassa() const;
     /// A gesture runs here: redraws leave statistics and autosave alone, and go to the picture
     /// below what the gesture draws.
@@ -122,7 +124,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
 
     // FormEvents.
     void Form_Activate() override;
-    void Form_Resize() override;
+    void Form_Resize(bool byUser) override;
     void Form_KeyDown(const KeyEvent& key) override;
     void Form_KeyUp(const KeyEvent& key) override;
     void Form_MouseMove() override;
@@ -134,6 +136,8 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
 
   private:
     void AsetaKoko();
+    void Redraw();
+    void AwaitRest();
     void Paint();
     void ClearSurface();
     void SaveImage();
@@ -146,6 +150,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     FrameKind kind_;
     std::unique_ptr<Form> form_;
     std::unique_ptr<SheetTable> keys_;
+    std::unique_ptr<Timer> rest_;  // ticks once the size has rested; made by the first resize
     Tausta tausta_;
     bool EleKaynnissa = false;
     bool paalla_ = false;   // drawing goes to the overlay

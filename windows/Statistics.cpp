@@ -21,7 +21,7 @@ Statistics::Statistics(PaaIkkuna& main, StatisticsHost& owner, std::vector<Tilas
     form_->Surface().SetVisible(false);
     grid_->onRightPress = [this] { ShowMenu(); };
     form_->Show();
-    Form_Resize();
+    Form_Resize(false);
 }
 
 Statistics::~Statistics() {
@@ -155,7 +155,7 @@ void Statistics::Form_QueryUnload() {
     owner_.SuljeStatistiikka();
 }
 
-void Statistics::Form_Resize() {
+void Statistics::Form_Resize(bool /*byUser*/) {
     grid_->SetPlace({0, 0, form_->ScaleWidth(), form_->ScaleHeight()});
 }
 

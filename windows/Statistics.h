@@ -60,7 +60,7 @@ class Statistics : public WindowObject, public CopySource, private FormEvents {
   private:
     void Form_Activate() override;
     void Form_QueryUnload() override;
-    void Form_Resize() override;
+    void Form_Resize(bool byUser) override;
     void Form_MouseMove() override;
     void ShowMenu();
 

@@ -53,6 +53,8 @@ void ChildFrame::SetOuterSize(Twips width, Twips height) {
         window_->setFixedSize(size);
     }
     window_->resize(size);
+    width_.Set(width, window_->OwnGeometry().width());
+    height_.Set(height, window_->OwnGeometry().height());
 }
 
 void ChildFrame::SetResizable(bool resizable) {
@@ -70,11 +72,11 @@ void ChildFrame::SetResizable(bool resizable) {
 }
 
 Twips ChildFrame::OuterWidth() const {
-    return TwipsFromPixels(window_ ? window_->OwnGeometry().width() : 0);
+    return window_ ? width_.At(window_->OwnGeometry().width()) : Twips();
 }
 
 Twips ChildFrame::OuterHeight() const {
-    return TwipsFromPixels(window_ ? window_->OwnGeometry().height() : 0);
+    return window_ ? height_.At(window_->OwnGeometry().height()) : Twips();
 }
 
 bool ChildFrame::HasOwnSize() const {
@@ -91,16 +93,18 @@ QSize ChildFrame::ClientSize() const {
 }
 
 Twips ChildFrame::Left() const {
-    return TwipsFromPixels(window_ ? window_->OwnGeometry().x() : 0);
+    return window_ ? left_.At(window_->OwnGeometry().x()) : Twips();
 }
 
 Twips ChildFrame::Top() const {
-    return TwipsFromPixels(window_ ? window_->OwnGeometry().y() : 0);
+    return window_ ? top_.At(window_->OwnGeometry().y()) : Twips();
 }
 
 void ChildFrame::SetPlace(Twips left, Twips top) {
     if (window_) {
         window_->move(PlacePixels(left), PlacePixels(top));
+        left_.Set(left, window_->OwnGeometry().x());
+        top_.Set(top, window_->OwnGeometry().y());
     }
 }
 

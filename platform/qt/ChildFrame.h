@@ -10,6 +10,23 @@
 
 namespace tessarin {
 
+/// A length that was given in twips, which a window has in whole pixels: until somebody else
+/// changes those, the twips are what was given.
+class GivenLength {
+  public:
+    /// `pixels` is what came of it.
+    void Set(Twips twips, int pixels) {
+        twips_ = twips;
+        pixels_ = pixels;
+    }
+    /// The twips of a window that has so many pixels now.
+    Twips At(int pixels) const { return pixels == pixels_ ? twips_ : TwipsFromPixels(pixels); }
+
+  private:
+    Twips twips_;
+    int pixels_ = 0;
+};
+
 /// The handle through which a form holds its window. The main window may go first; every call is
 /// harmless then, and sizes and places are 0. Destroying it takes the window off the screen, and
 /// nobody hears of that window again.
@@ -49,6 +66,10 @@ class ChildFrame {
     QPointer<ChildWindow> window_;
     QPointer<ActiveChild> active_;
     bool resizable_ = true;
+    GivenLength width_;
+    GivenLength height_;
+    GivenLength left_;
+    GivenLength top_;
 };
 
 }  // namespace tessarin

@@ -77,7 +77,7 @@ void KuvaWidget::FollowRatio() {
         return;
     }
     kuva_->SetRatio(devicePixelRatioF());
-    events_->Form_Resize();
+    events_->Form_Resize(false);
 }
 
 void KuvaWidget::paintEvent(QPaintEvent* event) {
@@ -111,7 +111,7 @@ void KuvaWidget::paintEvent(QPaintEvent* event) {
 void KuvaWidget::resizeEvent(QResizeEvent* /*event*/) {
     if (events_ != nullptr && size() != told_) {
         told_ = size();
-        events_->Form_Resize();
+        events_->Form_Resize(!programResizes_);
     }
 }
 

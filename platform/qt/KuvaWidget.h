@@ -19,6 +19,8 @@ class KuvaWidget : public QWidget {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {0, 0}; }
+    /// Changes of the size that come while this is on are the program's, not the user's.
+    void SetProgramResizes(bool on) { programResizes_ = on; }
     /// The mouse moved over it where the surface is not, or over a control in it.
     void TellMove();
 
@@ -40,6 +42,7 @@ class KuvaWidget : public QWidget {
     QtKuva* kuva_;
     FormEvents* events_;
     QSize told_;  // the client size that the receiver knows
+    bool programResizes_ = false;
     MouseButton down_ = MouseButton::kNone;
     bool pressing_ = false;  // the receiver is handling a press at this moment
     bool lostWhilePressing_ = false;

@@ -19,7 +19,7 @@ class QtForm : public Form, private ChildEvents {
     QtForm& operator=(const QtForm&) = delete;
 
     void SetCaption(std::string_view caption) override { frame_.SetCaption(caption); }
-    void SetOuterSize(Twips width, Twips height) override { frame_.SetOuterSize(width, height); }
+    void SetOuterSize(Twips width, Twips height) override;
     Twips OuterWidth() const override { return frame_.OuterWidth(); }
     Twips OuterHeight() const override { return frame_.OuterHeight(); }
     bool HasOwnSize() const override { return frame_.HasOwnSize(); }
@@ -32,8 +32,8 @@ class QtForm : public Form, private ChildEvents {
     int AreaHeight() const override { return frame_.AreaSize().height(); }
     int ScaleWidth() const override { return frame_.ClientSize().width(); }
     int ScaleHeight() const override { return frame_.ClientSize().height(); }
-    void Show() override { frame_.Show(); }
-    void ShowBeside() override { frame_.ShowBeside(); }
+    void Show() override;
+    void ShowBeside() override;
     void Hide() override { frame_.Hide(); }
     Kuva& Surface() override { return kuva_; }
     ControlMaker& Controls() override { return controls_; }

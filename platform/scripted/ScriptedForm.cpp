@@ -13,11 +13,15 @@ ScriptedForm::~ScriptedForm() {
 }
 
 void ScriptedForm::SetOuterSize(Twips newWidth, Twips newHeight) {
+    Resize(newWidth, newHeight, false);
+}
+
+void ScriptedForm::Resize(Twips newWidth, Twips newHeight, bool byUser) {
     const bool changed = !(newWidth == width && newHeight == height);
     width = newWidth;
     height = newHeight;
     if (changed && shown) {
-        events.Form_Resize();
+        events.Form_Resize(byUser);
     }
 }
 

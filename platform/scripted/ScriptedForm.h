@@ -41,6 +41,7 @@ class ScriptedForm : public Form {
 
     // The user's part.
     void Activate();
+    void Resize(Twips newWidth, Twips newHeight, bool byUser = true);
     void Press(double x, double y, MouseButton button = MouseButton::kLeft);
     void DoubleClick(double x, double y);
     void Move(double x, double y);

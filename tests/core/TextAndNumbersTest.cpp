@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core/NaturalOrder.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
@@ -73,6 +74,28 @@ TEST(Numbers, AreWrittenInTheFewestDigits) {
     EXPECT_EQ(NumberText(0.00001), "0.00001");
     EXPECT_EQ(NumberText(1.0 / 3), "0.333333333333333");
     EXPECT_EQ(NumberText(NAN), "NaN");
+}
+
+TEST(NaturalOrder, IsThatOfFileManagers) {
+    const std::vector<std::string> sorted = {"",
+                                             "060909.001",
+                                             "060909.2",
+                                             "060909.010",
+                                             "Tube 9",
+                                             "tube 9b",
+                                             "TUBE 10",
+                                             "tube 10",
+                                             "tube 010x",
+                                             "tube 99999999999999999999",
+                                             "tube 100000000000000000000",
+                                             "tube_1",
+                                             "z",
+                                             "\xc3\xa4"};
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        for (std::size_t j = 0; j < sorted.size(); ++j) {
+            EXPECT_EQ(NaturalLess(sorted[i], sorted[j]), i < j) << sorted[i] << ", " << sorted[j];
+        }
+    }
 }
 
 }  // namespace

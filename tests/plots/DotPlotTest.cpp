@@ -113,20 +113,45 @@ TEST_F(DotPlotTest, FastDrawFollowsTheLimit) {
     EXPECT_TRUE(form.surface.HasText("FAST DRAW MODE"));
 }
 
-TEST_F(DotPlotTest, ResizeDrawsThinnedUntilTheMouseMoves) {
+TEST_F(DotPlotTest, ResizingByHandDrawsThinnedUntilTheSizeRests) {
     const std::vector<float> many(3000, 500);
     ScriptedForm& form = Open({{"a", false, 1000, many}, {"b", false, 1000, many}});
     EXPECT_EQ(form.surface.blocksPainted, 3000U);
-    form.SetOuterSize(TwipsFromPixels(400), TwipsFromPixels(300));
-    EXPECT_EQ(form.surface.blocksPainted, 1000U);
+    const auto resize = [&form](int width) {
+        form.Resize(TwipsFromPixels(width), TwipsFromPixels(300));
+        return form.surface.blocksPainted;
+    };
+    EXPECT_EQ(resize(400), 1000U);
     EXPECT_EQ(form.surface.Width(), 400 - ScriptedForm::kFrameWidth);
     EXPECT_EQ(OletusKoko("DotPlot").Leveys, 6000);
     form.Move(50, 50);
     EXPECT_EQ(form.surface.blocksPainted, 3000U);
-    form.SetOuterSize(TwipsFromPixels(1), TwipsFromPixels(1));  // too small to hold anything
+    EXPECT_EQ(resize(390), 1000U);
+    platform.mainForm.events->BackgroundMouseMove();
+    EXPECT_EQ(form.surface.blocksPainted, 3000U);
+    EXPECT_EQ(resize(380), 1000U);
+    platform.timers.ticks.back()();
+    EXPECT_EQ(form.surface.blocksPainted, 3000U) << "no mouse was needed";
+
+    // Whatever leaves the window, or is told of its file, is whole.
+    EXPECT_EQ(resize(370), 1000U);
+    form.Activate();
+    Choose("CopyImages");
+    EXPECT_EQ(form.surface.blocksPainted, 3000U);
+    EXPECT_EQ(resize(360), 1000U);
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_EQ(form.surface.blocksPainted, 3000U);
+    EXPECT_EQ(resize(350), 1000U);
+    ScriptedForm& other = NewDotPlot();
+    other.Resize(TwipsFromPixels(333), TwipsFromPixels(300));
+    EXPECT_EQ(form.surface.blocksPainted, 3000U) << "only one window can wait";
+    EXPECT_EQ(other.surface.blocksPainted, 1000U);
+
+    form.SetOuterSize(TwipsFromPixels(200), TwipsFromPixels(200));
+    EXPECT_EQ(form.surface.blocksPainted, 3000U) << "the program's sizes are full at once";
+    form.Resize(TwipsFromPixels(1), TwipsFromPixels(1));  // too small to hold anything
     platform.mainForm.events->BackgroundMouseMove();
     EXPECT_EQ(KokoaMuutetaan, 0);
-    EXPECT_GE(form.surface.Width(), 1);
 }
 
 TEST_F(DotPlotTest, DensityShadesCountEvents) {

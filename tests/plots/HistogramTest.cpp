@@ -147,7 +147,7 @@ TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
     EXPECT_EQ(form_.surface.PixelAt(118, 100), (Rgb{0, 90, 200}).Pixel());
     ChoosePopup(form_, 13);
     EXPECT_GT(CountStrokes(LineForm::kLine, {0, 10, 120}), 0) << "no part of a colour below 0";
-    form_.SetOuterSize(TwipsFromPixels(1), TwipsFromPixels(1));
+    form_.Resize(TwipsFromPixels(1), TwipsFromPixels(1));
     EXPECT_EQ(KokoaMuutetaan, 0) << "always redrawn in full";
 }
 
@@ -175,6 +175,13 @@ TEST_F(HistogramTest, GivesItsBinsToOthers) {
     Populaatiot(1).X[2] = 1e30F;
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 5000);
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 99), 0);
+    for (const auto& [left, right] : {std::pair{10010.0F, 12000.0F}, {-900.0F, -20.0F}}) {
+        Populaatiot(1).X[1] = left;
+        Populaatiot(1).X[2] = right;
+        for (const char* mode : {"paikka", "abskorkeus", "suhtkorkeus"}) {
+            EXPECT_EQ(bins.AnnaHistonKorkeinKohta(mode, 1), 0) << left << " lies beyond the axis";
+        }
+    }
     int32_t place = 5000;
     EXPECT_EQ(bins.AnnaHistonKorkeus(place), 10000);
     EXPECT_EQ(place, 512) << "the argument becomes the bin";

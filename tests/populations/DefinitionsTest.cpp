@@ -63,17 +63,17 @@ class DefinitionsTest : public SessionTest {
         return message.empty() ? std::to_string(membership(kEvents, kSlot)) : "-";
     }
 
-    // Operands joined by "and" and "or". "not" stands in front of names alone, and not directly
-    // behind a parenthesis.
-    Part Expression(const std::vector<Part>& names, int depth, bool inGroup) {
+    // Operands joined by "and" and "or", some of them negated.
+    Part Expression(const std::vector<Part>& names, int depth) {
         Part sum;
         Members product;
         for (bool first = true; first || random_() % 5 < 3; first = false) {
             Part operand = names[random_() % names.size()];
             if (depth > 0 && random_() % 3 == 0) {
-                operand = Expression(names, depth - 1, true);
+                operand = Expression(names, depth - 1);
                 operand.text = "(" + operand.text + ")";
-            } else if (!(first && inGroup) && random_() % 3 == 0) {
+            }
+            if (random_() % 3 == 0) {
                 operand = {"Not " + operand.text, ~operand.answer};
             }
             const bool isAnd = !first && random_() % 2 == 0;
@@ -102,7 +102,7 @@ TEST_F(DefinitionsTest, AnyExpressionMeansWhatItSays) {
         }
     }
     for (int tried = 0; tried < 150;) {
-        const Part part = Expression(names, 3, false);
+        const Part part = Expression(names, 3);
         if (std::ranges::count(part.text, ' ') > 20) {
             continue;  // could name more than a definition may
         }
@@ -126,22 +126,25 @@ TEST_F(DefinitionsTest, OddFormsAreTakenAsTheyStand) {
         {"A AND B and NOT poly-3", "111", "0"},
         {"a and a", "1", "1"},
         {"b and not b", "11", "0"},
-        // (1-(a)+b)
         {"not (a or b)", "00", "1"},
-        {"not (a or b)", "01", "1"},
+        {"not (a or b)", "01", "0"},
         {"not (a or b)", "10", "0"},
-        {"not (a or b)", "11", "1"},
-        // (1-((a)+b)*c) is 1 - 2 for an event in all three
-        {"not ((a or b) and Poly-3)", "111", "0"},
+        {"not (a or b)", "11", "0"},
+        {"not (a or b) or Poly-3", "111", "1"},
+        {"not (a or b) and not (a or Poly-3)", "111", "0"},
+        {"(not a)", "1", "0"},
+        {"(not a)", "0", "1"},
+        {"b and (not a)", "01", "1"},
+        {"not not a", "1", "1"},
         {"not ((a or b) and Poly-3)", "011", "0"},
         {"not ((a or b) and Poly-3)", "110", "1"},
     };
     for (const auto& [expression, bits, answer] : answers) {
         EXPECT_EQ(Answer(expression, bits), answer) << expression << " " << bits;
     }
-    for (const char* text : {"(not a)", "not not a", "a not b", "not a not", "a and not", "a b",
-                             "a and", "and a", "or", "not", "(and)", "a or or b", "a and or b",
-                             "(a", "a)", ")a(", "a (b)", "(a)(b) or b"}) {
+    for (const char* text :
+         {"a not b", "not a not", "a and not", "a b", "a and", "and a", "or", "not", "(and)",
+          "a or or b", "a and or b", "(a", "a)", ")a(", "a (b)", "(a)(b) or b"}) {
         EXPECT_EQ(Answer(text, "110"), "-") << text;
     }
 }

@@ -11,7 +11,7 @@ TEST_F(FormTest, SizesAreThoseOfTheFrameAndOfTheClientArea) {
     child.form = Main().MakeChild(child);
     child.form->SetOuterSize({4000}, {4000});
     // Before it is shown, as after.
-    EXPECT_EQ(child.form->OuterWidth().count, 266 * 15);
+    EXPECT_EQ(child.form->OuterWidth().count, 4000) << "as it was given";
     const int width = child.form->ScaleWidth();
     const int height = child.form->ScaleHeight();
     EXPECT_GT(width, 230);
@@ -22,6 +22,17 @@ TEST_F(FormTest, SizesAreThoseOfTheFrameAndOfTheClientArea) {
     EXPECT_EQ(child.form->ScaleWidth(), width);
     EXPECT_EQ(child.form->ScaleHeight(), height);
     EXPECT_TRUE(child.form->HasOwnSize());
+
+    child.form->SetPlace({200}, {-7});
+    EXPECT_EQ(child.form->Left().count, 200);
+    EXPECT_EQ(child.form->Top().count, -7);
+    EXPECT_EQ(child.form->OuterWidth().count, 4000);
+    Take();
+    Shown(0).setGeometry(20, 30, 300, 200);  // as the user drags it
+    EXPECT_EQ(Take(),
+              Log{"A dragged " + std::to_string(width + 34) + " " + std::to_string(height - 66)});
+    EXPECT_EQ(child.form->OuterWidth().count, 300 * 15);
+    EXPECT_EQ(child.form->Left().count, 20 * 15);
 }
 
 TEST_F(FormTest, ResizeIsToldWhenTheClientAreaHasAnotherSize) {

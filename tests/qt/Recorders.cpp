@@ -4,8 +4,8 @@
 
 namespace tessarin {
 
-void RecordingForm::Form_Resize() {
-    Note("resize " + std::to_string(form->ScaleWidth()) + " " +
+void RecordingForm::Form_Resize(bool byUser) {
+    Note(std::string(byUser ? "dragged " : "resize ") + std::to_string(form->ScaleWidth()) + " " +
          std::to_string(form->ScaleHeight()));
 }
 

@@ -23,7 +23,7 @@ class RecordingForm : public FormEvents {
     RecordingForm(std::string name, Log& log) : name_(std::move(name)), log_(log) {}
 
     void Form_Activate() override { Note("activate"); }
-    void Form_Resize() override;
+    void Form_Resize(bool byUser) override;
     void Form_KeyDown(const KeyEvent& key) override {
         Note("down " + std::to_string(key.code) + (key.ctrl ? " ctrl" : ""));
     }

@@ -1,30 +1,27 @@
-#include "populations/DefinitionArithmetic.h"
+#include "populations/DefinitionLogic.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
 namespace tessarin {
 namespace {
 
-constexpr std::string_view kOperators = "+-*";
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool IsUnknown(char c) {
     return c >= 'a' && c <= 'z';
 }
 int Precedence(char op) {
-    return op == '*' ? 2 : 1;
+    constexpr int kNot = 3;
+    return op == '-' ? kNot : op == '*' ? 2 : 1;
 }
 
 }  // namespace
 
 // Reads from left to right without recursion, so that no text can exhaust the stack. Operators and
 // open parentheses wait until what they work on is complete.
-class Laskulauseke::Reader {
+class Totuuslauseke::Reader {
   public:
-    std::optional<Laskulauseke> Read(std::string_view text) {
+    std::optional<Totuuslauseke> Read(std::string_view text) {
         for (const char c : text) {
             if (!(operandNext_ ? ReadOperand(c) : ReadOperator(c))) {
                 return std::nullopt;
@@ -39,19 +36,16 @@ class Laskulauseke::Reader {
 
   private:
     bool ReadOperand(char c) {
-        if (c == '(') {
+        if (c == '(' || c == '-') {
             waiting_ += c;
-            return ++depth_ <= kMaxDepth;
+            return waiting_.size() <= kMaxDepth;
         }
-        if (IsDigit(c)) {
-            result_.steps_.push_back({'n', c - '0'});
-        } else if (IsUnknown(c)) {
-            result_.steps_.push_back({'u', result_.unknowns_++});
-        } else {
+        if (!IsUnknown(c)) {
             return false;
         }
+        result_.steps_.push_back({'u', result_.unknowns_++});
         operandNext_ = false;
-        return ++operands_ <= kMaxOperands;
+        return result_.unknowns_ <= static_cast<int>(kMaxUnknowns);
     }
 
     bool ReadOperator(char c) {
@@ -61,10 +55,9 @@ class Laskulauseke::Reader {
                 return false;
             }
             waiting_.pop_back();
-            --depth_;
             return true;
         }
-        if (kOperators.find(c) == std::string_view::npos) {
+        if (c != '*' && c != '+') {
             return false;
         }
         FinishDownTo(Precedence(c));
@@ -82,35 +75,27 @@ class Laskulauseke::Reader {
         }
     }
 
-    Laskulauseke result_;
+    Totuuslauseke result_;
     std::string waiting_;
-    std::size_t depth_ = 0;
-    std::size_t operands_ = 0;
     bool operandNext_ = true;
 };
 
-std::optional<Laskulauseke> Laskulauseke::Lue(std::string_view text) {
+std::optional<Totuuslauseke> Totuuslauseke::Lue(std::string_view text) {
     return Reader().Read(text);
 }
 
-double Laskulauseke::Arvo(uint32_t bits) const {
-    std::array<double, kMaxOperands> stack{};
+bool Totuuslauseke::Arvo(uint32_t bits) const {
+    std::array<bool, kMaxUnknowns> stack{};
     std::size_t height = 0;
     for (const Step& step : steps_) {
         if (step.kind == 'u') {
-            stack[height++] = (bits >> static_cast<unsigned>(step.argument) & 1U) != 0 ? 1 : 0;
-            continue;
-        }
-        if (step.kind == 'n') {
-            stack[height++] = step.argument;
-            continue;
-        }
-        const double right = stack[--height];
-        double& left = stack[height - 1];
-        if (step.kind == '*') {
-            left *= right;
+            stack[height++] = (bits >> static_cast<unsigned>(step.unknown) & 1U) != 0;
+        } else if (step.kind == '-') {
+            stack[height - 1] = !stack[height - 1];
         } else {
-            left += step.kind == '+' ? right : -right;
+            const bool right = stack[--height];
+            bool& left = stack[height - 1];
+            left = step.kind == '*' ? left && right : left || right;
         }
     }
     return stack[0];

@@ -134,4 +134,20 @@ PathParts SplitPath(std::string_view path) {
     return {std::string(path.substr(0, cut + 1)), std::string(path.substr(cut + 1))};
 }
 
+std::string Shortened(std::string_view text, int characters) {
+    if (characters <= 0) {
+        return "";
+    }
+    if (Length(text) <= static_cast<std::size_t>(characters)) {
+        return std::string(text);
+    }
+    std::size_t end = 0;
+    for (int kept = 1; kept < characters; ++kept) {
+        do {
+            ++end;
+        } while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U);
+    }
+    return std::string(text.substr(0, end)) + "\u2026";
+}
+
 }  // namespace tessarin

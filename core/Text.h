@@ -33,4 +33,8 @@ struct PathParts {
 };
 PathParts SplitPath(std::string_view path);
 
+/// UTF-8 text of at most `characters` characters: a longer one loses its end for an ellipsis.
+/// Empty when there is room for none.
+std::string Shortened(std::string_view text, int characters);
+
 }  // namespace tessarin

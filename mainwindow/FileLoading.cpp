@@ -115,7 +115,7 @@ int16_t FindOrRead(PaaIkkuna& main, const std::string& path, LukuTapa way) {
     return slot;
 }
 
-bool GiveToWindow(int16_t window, int16_t slot) {
+bool GiveToWindow(PaaIkkuna& main, int16_t window, int16_t slot) {
     const auto target = IkkunaPaikassa(window);
     if (target == nullptr) {
         return false;
@@ -123,6 +123,7 @@ bool GiveToWindow(int16_t window, int16_t slot) {
     Ikkunat(window).FileIndex = slot;
     target->LatauksenJalkeen();
     target->Piirra();
+    main.PaivitaKomennot();
     return true;
 }
 
@@ -174,7 +175,7 @@ bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t
         return false;
     }
     main.HuomautaTiedostosta(taken);
-    const bool shown = window != 0 && GiveToWindow(window, taken);
+    const bool shown = window != 0 && GiveToWindow(main, window, taken);
     CurrentFile = taken;
     return shown;
 }

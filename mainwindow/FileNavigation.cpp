@@ -44,11 +44,17 @@ bool Open(PaaIkkuna& main, int16_t window, const Place& place, std::ptrdiff_t nu
 
 using Step = bool (*)(PaaIkkuna&, int16_t);
 
-void StepSelected(PaaIkkuna& main, Step step) {
+// `isLast` tells whether there is nothing behind a place; the user then hears `word`.
+template <class IsLast>
+void StepSelected(PaaIkkuna& main, Step step, IsLast isLast, const char* word) {
+    bool atEnd = false;
     for (int16_t window = 1; window <= MaxWindows; ++window) {
         if (HasFile(window) && Ikkunat(window).Selected) {
-            step(main, window);
+            atEnd = (!step(main, window) && isLast(Place(window))) || atEnd;
         }
+    }
+    if (atEnd) {
+        main.Huomauta(std::string("This is the ") + word + " data file of its folder.");
     }
 }
 
@@ -82,11 +88,15 @@ bool EdellinenTiedosto(PaaIkkuna& main, int16_t window) {
 }
 
 void FileNextFile(PaaIkkuna& main) {
-    StepSelected(main, SeuraavaTiedosto);
+    StepSelected(
+        main, SeuraavaTiedosto,
+        [](const Place& at) { return at.number == static_cast<std::ptrdiff_t>(at.files.size()); },
+        "last");
 }
 
 void FilePreviousFile(PaaIkkuna& main) {
-    StepSelected(main, EdellinenTiedosto);
+    StepSelected(
+        main, EdellinenTiedosto, [](const Place& at) { return at.number <= 1; }, "first");
 }
 
 }  // namespace tessarin

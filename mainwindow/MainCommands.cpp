@@ -1,4 +1,6 @@
 // What the main window itself can do, as one table.
+#include <algorithm>
+
 #include "core/Muuttujat.h"
 #include "mainwindow/Commands.h"
 #include "mainwindow/Exit.h"
@@ -10,15 +12,29 @@
 #include "mainwindow/WindowList.h"
 
 namespace tessarin {
+namespace {
+
+// There is a file to step from.
+bool CanStep(const PaaIkkuna& /*main*/) {
+    return std::any_of(Ikkunat.begin(), Ikkunat.end(), [](const Ikkuna& window) {
+        return window.Used && window.Selected && window.FileIndex != 0;
+    });
+}
+
+bool CanSaveFcs(const PaaIkkuna& /*main*/) {
+    return Ikkunat.Holds(ActiveWindow) && Ikkunat(ActiveWindow).FileIndex != 0;
+}
+
+}  // namespace
 
 void LisaaOmatKomennot(Komennot& commands) {
     for (Komento& command : std::vector<Komento>{
              {"FileOpenFCS", [](PaaIkkuna& main) { FileOpenFCS(main); }},
              {"FileOpenTXT", FileOpenTXT},
-             {"FileNextFile", FileNextFile},
-             {"FilePreviousFile", FilePreviousFile},
-             {"FileSaveFCS", FileSaveFCS},
-             {"FileSaveFCSEiKysymysta", FileSaveFCSEiKysymysta},
+             {"FileNextFile", FileNextFile, CanStep},
+             {"FilePreviousFile", FilePreviousFile, CanStep},
+             {"FileSaveFCS", FileSaveFCS, CanSaveFcs},
+             {"FileSaveFCSEiKysymysta", FileSaveFCSEiKysymysta, CanSaveFcs},
              {"FileOpenView", [](PaaIkkuna& main) { main.OpenView(); }},
              {"FileSaveView", [](PaaIkkuna& main) { main.TalletaNakyma("Sheet"); }},
              {"MenuSaveAnalysisPackage", [](PaaIkkuna& main) { main.TalletaNakyma("Paketti"); }},

@@ -41,7 +41,7 @@ constexpr std::array kItems = {
     Row{"MenuFile", "AvaaFileNameHandler", "File name handler", "", true},
     Separator("MenuFile"),
     Row{"MenuFile", "FileOpenView", "Open analysis view..."},
-    Row{"MenuFile", "FileSaveView", "Save analysis view..."},
+    Row{"MenuFile", "FileSaveView", "Save analysis view...", "Ctrl+S"},
     Row{"MenuFile", "MenuSaveAnalysisPackage", "Save analysis package..."},
     Separator("MenuFile"),
     Row{"MenuFile", "AvaaPrintPreviewPage", "Print preview", "", true},

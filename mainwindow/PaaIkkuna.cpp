@@ -4,6 +4,7 @@
 
 #include "core/BusyPointer.h"
 #include "core/Muuttujat.h"
+#include "core/RegionMuuttujat.h"
 #include "mainwindow/Exit.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/MenuTree.h"
@@ -69,6 +70,9 @@ void PaaIkkuna::PiirraKaikki() {
         platform_.loop.Yield();
     }
     populations_.PaivitaRegionLista();
+    if (tellsOfDrawing_ != UusiRegionPaalla) {
+        PiirtoMuuttui();
+    }
     PaivitaKomennot();
     TalletaNakyma("Autosave");
 }
@@ -106,10 +110,27 @@ void PaaIkkuna::MuistutaTiedostosta(int16_t slot) {
 
 void PaaIkkuna::Huomauta(const std::string& remark) {
     remarkIsOfFile_ = false;
+    tellsOfDrawing_ = false;
     platform_.mainForm.SetStatus(remark);
     if (onRemark && !remark.empty()) {
         onRemark(remark);
     }
+}
+
+void PaaIkkuna::PiirtoMuuttui() {
+    populations_.PaivitaNapit();
+    if (UusiRegionPaalla) {
+        platform_.mainForm.SetStatus(
+            "Click the corners; right click closes; Esc cancels. In a histogram drag a marker.");
+    } else if (tellsOfDrawing_) {
+        platform_.mainForm.SetStatus("");
+    }
+    tellsOfDrawing_ = UusiRegionPaalla;
+}
+
+void PaaIkkuna::PeruPiirto() {
+    PalautaPiirtoele();
+    PiirraKaikki();
 }
 
 bool PaaIkkuna::OnkoEsikatselu() const {

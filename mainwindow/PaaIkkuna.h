@@ -47,13 +47,18 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// Opens a file by its ending: a sheet replaces the session, data come in a new dot plot.
     void AvaaTiedosto(const std::string& path);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
-    void Huomauta(const std::string& remark);
+    void Huomauta(const std::string& remark) override;
     /// Remarks what is odd about the file that was just read; clears the line when nothing is.
     void HuomautaTiedostosta(int16_t slot);
     /// `Muistuta` means remind: the active window shows that file. What is odd about it stands in
     /// the status bar again, in place of what is odd about another file. Any other remark gives way
     /// only to an odd file.
     void MuistutaTiedostosta(int16_t slot);
+    /// `PiirtoMuuttui` means the drawing changed: while a region is armed, "Create" looks pressed
+    /// and the status bar says what to do.
+    void PiirtoMuuttui() override;
+    /// `PeruPiirto` means call the drawing off: nothing is armed any more, and no region is made.
+    void PeruPiirto();
     /// `PaivitaKomennot` means update the commands: items whose commands cannot be chosen now are
     /// disabled.
     void PaivitaKomennot();
@@ -106,6 +111,7 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     PopulationCommands panelCommands_;
     CopySource* kopioitava_ = nullptr;
     bool remarkIsOfFile_ = false;  // the status bar tells of a file
+    bool tellsOfDrawing_ = false;  // it tells how to draw a region
 };
 
 }  // namespace tessarin

@@ -10,10 +10,15 @@
 namespace tessarin {
 namespace {
 
-PopupEntry ShowPopulationEntry(const PaaIkkuna& main) {
+// With a tick at the gate of that window.
+PopupEntry ShowPopulationEntry(const PaaIkkuna& main, int16_t id) {
+    const auto window = IkkunaPaikassa(id);
+    const GateOwner* gate = window == nullptr ? nullptr : window->Gate();
     PopupEntry entry{"Show populations"};
     for (const std::string& caption : main.Paneeli().ShowPopulation()) {
-        entry.children.push_back({caption});
+        const int16_t slot =
+            main.Paneeli().NaytaValikonPopulaatio(static_cast<int>(entry.children.size()));
+        entry.children.push_back({caption, true, gate != nullptr && gate->Portti() == slot});
     }
     return entry;
 }
@@ -40,7 +45,7 @@ void MenuClick(PaaIkkuna& main, int item) {
 
 void NaytaNappiMenu(PaaIkkuna& main, int16_t id, const std::vector<WindowMenuItem>& items) {
     PopupIkkuna = id;
-    std::vector<PopupEntry> entries = {ShowPopulationEntry(main)};
+    std::vector<PopupEntry> entries = {ShowPopulationEntry(main, id)};
     for (const WindowMenuItem& item : items) {
         entries.push_back({item.caption, item.enabled});
     }
@@ -59,10 +64,11 @@ int NaytaStatMenu(PaaIkkuna& main, int16_t id, const std::vector<PopupEntry>& it
     return main.Services().popups.Show(entries).item;
 }
 
-int16_t NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file) {
+int16_t NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file, int16_t current) {
     std::vector<PopupEntry> entries;
     for (const Kanava& channel : file.Channels) {
-        entries.push_back({channel.Name});
+        const auto number = static_cast<int16_t>(entries.size() + 1);
+        entries.push_back({channel.Name, true, number == current});
     }
     const PopupChoice choice = main.Services().popups.Show(entries);
     if (choice.item < 0) {

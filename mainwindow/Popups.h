@@ -29,8 +29,9 @@ void NaytaNappiMenu(PaaIkkuna& main, int16_t id, const std::vector<WindowMenuIte
 /// number of the item chosen, 0 for the first, or -1.
 int NaytaStatMenu(PaaIkkuna& main, int16_t id, const std::vector<PopupEntry>& items);
 
-/// `KanavaLista` means channel list: lets the user choose a channel of the file. Gives it, counted
-/// from 1, and leaves it in `ValittuKanava`, counted from 0; gives 0 when the list was dismissed.
-int16_t NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file);
+/// `KanavaLista` means channel list: lets the user choose a channel of the file, of which `current`
+/// has a tick. Gives it, counted from 1, and leaves it in `ValittuKanava`, counted from 0; gives 0
+/// when the list was dismissed.
+int16_t NaytaKanavaLista(PaaIkkuna& main, const Tiedosto& file, int16_t current);
 
 }  // namespace tessarin

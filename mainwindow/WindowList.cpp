@@ -47,6 +47,7 @@ void LuoIkkunaPaikkaan(PaaIkkuna& main, std::string_view type, int16_t id) {
     window->Alusta(id);
     ActiveWindow = id;
     main.AsetaKopioitava(window.get());
+    main.PaivitaKomennot();
 }
 
 int16_t LuoIkkuna(PaaIkkuna& main, std::string_view type) {

@@ -19,6 +19,8 @@ class GateOwner {
     virtual ~GateOwner() = default;
     /// `NaytaPopulaatio` means show a population: gates on that slot, 0 for all events.
     virtual void NaytaPopulaatio(int16_t population) = 0;
+    /// `Portti` means gate: that slot.
+    virtual int16_t Portti() const = 0;
 };
 
 /// Shows channels of a file on axes.

@@ -82,6 +82,8 @@ class MainForm {
     /// Turns the slot's option button on, and the others of its frame off. No event is sent.
     virtual void SelectPanelRow(int slot) = 0;
     virtual void SetPanelButtonEnabled(PanelButton button, bool enabled) = 0;
+    /// A button that looks pressed: what it began is under way.
+    virtual void SetPanelButtonDown(PanelButton button, bool down) = 0;
 
     /// Makes a child window, not shown yet. `events` must outlive it.
     virtual std::unique_ptr<Form> MakeChild(FormEvents& events) = 0;

@@ -49,6 +49,7 @@ void DotPlot::DrawPicture(const PlotArea& area) {
         PiirraAlueidenNimet(Surface(), area, regions_->Nakyma());
     }
     view_.DrawFastMark(area);
+    view_.DrawGate();
     PiirraXOtsikko(Surface(), area, file.Channels(axes_(1)).Name);
     PiirraYOtsikko(Surface(), area, file.Channels(axes_(2)).Name);
     quadrant_.Piirra(area);

@@ -61,6 +61,7 @@ void Histogram::DrawPicture(const PlotArea& area) {
         PiirraMarkkereidenNimet(Surface(), area, regions_->Nakyma());
     }
     view_.DrawFastMark(area);
+    view_.DrawGate();
     bins_.PiirraHuippu(area);
 }
 

@@ -29,6 +29,20 @@ void PopulationCommands::ShowChange() {
     view_.PiirraKaikki();
 }
 
+void PopulationCommands::CheckDefinitions() {
+    std::string lost;
+    for (int16_t slot = MaxPopulations + 1; slot <= kPopulationSlots; ++slot) {
+        const bool before = Populaatiot(slot).Defined;
+        CheckDefinition(slot);
+        if (before && !Populaatiot(slot).Defined) {
+            lost += (lost.empty() ? "" : "; ") + Populaatiot(slot).Name;
+        }
+    }
+    if (!lost.empty()) {
+        view_.Huomauta("No longer defined: " + lost);
+    }
+}
+
 void PopulationCommands::LuoUusiRegion() {
     if (UusiRegionPaalla) {
         UusiRegionPaalla = false;  // a second press cancels
@@ -36,12 +50,14 @@ void PopulationCommands::LuoUusiRegion() {
             PalautaPiirtoele();
             view_.PiirraKaikki();
         }
+        view_.PiirtoMuuttui();
         return;
     }
     UusiRegionPaalla =
         !Populaatiot(panel_.ValittuPopulaatio()).Defined ||
         dialogs_.Ask("Population has been already defined. Do you want to re-define it?",
                      "Population already defined", QuestionButtons::kOkCancel);
+    view_.PiirtoMuuttui();
 }
 
 void PopulationCommands::MuutaRegioninNimi() {
@@ -56,6 +72,7 @@ void PopulationCommands::MuutaRegioninNimi() {
     }
     NimeaMaaritelmissa(population.Name, name);
     population.Name = name;
+    CheckDefinitions();
     ShowChange();
 }
 
@@ -68,7 +85,7 @@ void PopulationCommands::PoistaRegion() {
     }
     Populaatiot(slot).Defined = false;
     Populaatiot(slot).Name.clear();
-    TarkistaMaaritelmat();
+    CheckDefinitions();
     panel_.PaivitaRegionLista();
     for (Tiedosto& file : Tiedostot) {
         if (file.Valid) {

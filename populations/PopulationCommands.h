@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "platform/Dialogs.h"
 #include "platform/MainForm.h"
@@ -15,6 +16,10 @@ class SessionView {
     virtual ~SessionView() = default;
     /// Redraws every window, refreshes the panel, autosaves.
     virtual void PiirraKaikki() = 0;
+    /// One line for the status bar; empty clears it.
+    virtual void Huomauta(const std::string& remark) = 0;
+    /// A region was armed, or is no longer: tells what to do now.
+    virtual void PiirtoMuuttui() = 0;
 };
 
 class PopulationCommands {
@@ -38,6 +43,8 @@ class PopulationCommands {
     void PoistaMaaritelma();
     /// Panel and windows follow a change of the table.
     void ShowChange();
+    /// Checks all definitions, and tells of those that no longer mean anything.
+    void CheckDefinitions();
 
     Dialogs& dialogs_;
     PopulationPanel& panel_;

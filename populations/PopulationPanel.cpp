@@ -2,6 +2,7 @@
 
 #include "core/BusyPointer.h"
 #include "core/Muuttujat.h"
+#include "core/RegionMuuttujat.h"
 
 namespace tessarin {
 
@@ -38,19 +39,20 @@ void PopulationPanel::PaivitaRegionLista() {
             naytaValikonPopulaatiot_(naytaValikonPopulaatiot_.size()) = static_cast<int16_t>(slot);
         }
     }
-    EnableButtons();
+    PaivitaNapit();
 }
 
-void PopulationPanel::EnableButtons() {
+void PopulationPanel::PaivitaNapit() {
     const bool defined = Populaatiot(selectedPopulation_).Defined;
     form_.SetPanelButtonEnabled(PanelButton::kPoistaRegion, defined);
     form_.SetPanelButtonEnabled(PanelButton::kMuutaRegioninNimi, defined);
+    form_.SetPanelButtonDown(PanelButton::kLuoUusiRegion, UusiRegionPaalla);
 }
 
 void PopulationPanel::Valitse(int slot) {
     (slot <= MaxPopulations ? selectedPopulation_ : selectedDefinition_) =
         static_cast<int16_t>(slot);
-    EnableButtons();
+    PaivitaNapit();
 }
 
 std::vector<std::string> PopulationPanel::ShowPopulation() const {

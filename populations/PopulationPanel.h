@@ -21,6 +21,10 @@ class PopulationPanel {
     /// `PaivitaRegionLista` means update the region list: brings rows and menu in line.
     void PaivitaRegionLista();
 
+    /// `PaivitaNapit` means update the buttons: a free slot can be neither deleted nor renamed, and
+    /// "Create" looks pressed while a region is armed.
+    void PaivitaNapit();
+
     /// The option button of that slot was turned on.
     void Valitse(int slot);
     /// Slot of the population option that is on.
@@ -35,8 +39,6 @@ class PopulationPanel {
 
   private:
     void UpdateRow(int slot);
-    /// A free slot can be neither deleted nor renamed.
-    void EnableButtons();
 
     MainForm& form_;
     int16_t selectedPopulation_ = 1;

@@ -42,7 +42,7 @@ void ChannelAxes::Valitse(int n, const std::function<void()>& chosen) {
         return;
     }
     ValikkoAkseli = static_cast<int16_t>(n);
-    const int16_t channel = NaytaKanavaLista(window_.Main(), *file);
+    const int16_t channel = NaytaKanavaLista(window_.Main(), *file, (*this)(n));
     if (channel == 0) {
         return;
     }

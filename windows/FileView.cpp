@@ -1,6 +1,8 @@
 #include "windows/FileView.h"
 
 #include "core/Muuttujat.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
 #include "mainwindow/PaaIkkuna.h"
 
 namespace tessarin {
@@ -48,6 +50,21 @@ void FileView::DrawFastMark(const PlotArea& area) const {
     if (nopea_.FastDraw) {
         PiirraNopeanMerkki(window_.Surface(), area);
     }
+}
+
+void FileView::DrawGate() const {
+    if (NaytettavaPopulaatio == 0) {
+        return;
+    }
+    constexpr std::string_view kWord = "Gate: ";
+    constexpr double kTop = 2;  // of the upper margin
+    Kuva& surface = window_.Surface();
+    const double right = surface.Width() - TekstiMarginaali;
+    const double room = Int((right - TekstiMarginaali) / kMerkinLeveys);
+    const std::string text =
+        Shortened(std::string(kWord) + Populaatiot(NaytettavaPopulaatio).Name, ToInt32(room));
+    surface.SetCurrent(right - static_cast<double>(Length(text)) * kMerkinLeveys, kTop);
+    surface.Print(text);
 }
 
 WindowMenuItem FileView::FastDrawItem() {

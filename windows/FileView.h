@@ -17,8 +17,7 @@ class FileView : public GateOwner {
     // GateOwner.
     void NaytaPopulaatio(int16_t population) override;
 
-    /// The gate: a population slot, 0 for all events. One that is no longer defined reads as 0.
-    int16_t Portti() const { return NaytettavaPopulaatio; }
+    int16_t Portti() const override { return NaytettavaPopulaatio; }
     const NopeaPiirto& Nopea() const { return nopea_; }
     /// `PiirtoVali`, the step of all that is computed.
     int32_t Vali() const { return nopea_.PiirtoVali; }
@@ -36,6 +35,8 @@ class FileView : public GateOwner {
     void AsetaVeto(bool dragging);
 
     void DrawFastMark(const PlotArea& area) const;
+    /// Tells of the gate in the upper right corner of the picture.
+    void DrawGate() const;
     WindowMenuItem FastDrawItem();
     void AddShowKey(SheetTable& keys);
     void AddFastDrawKey(SheetTable& keys);

@@ -141,6 +141,7 @@ bool FrameWindow::IsOnPage() {
 
 void FrameWindow::UnloadWindow() {
     VapautaIkkuna(ID);
+    main_.PaivitaKomennot();
 }
 
 void FrameWindow::Form_Activate() {
@@ -193,7 +194,25 @@ void FrameWindow::Form_MouseMove() {
 void FrameWindow::Form_KeyDown(const KeyEvent& key) {
     if (key.code == kKeyShift) {
         ShiftPainettu = true;
+    } else if (key.code == kKeyEscape && UusiRegionPaalla) {
+        main_.PeruPiirto();
+    } else if (key.code == kKeyEscape && EleKaynnissa) {
+        MouseLost();
+    } else if (key.code == kKeyBackspace && RegionAloitettu && RegionIkkuna == ID) {
+        DropLastCorner();
+    } else {
+        KeyPressed(key);
     }
+}
+
+// The first corner can go too; the region stays armed then.
+void FrameWindow::DropLastCorner() {
+    --KulmienMaara;
+    RegionAloitettu = KulmienMaara > 0;
+    Surface().SetAutoRedraw(false);
+    Surface().Cls();
+    Surface().SetAutoRedraw(!RegionAloitettu);
+    Moved(mouse_);
 }
 
 void FrameWindow::Form_KeyUp(const KeyEvent& /*key*/) {
@@ -227,6 +246,7 @@ void FrameWindow::Kuva_MouseMove(const MouseEvent& mouse) {
     if (OnkoKokoMuuttumassa()) {
         Piirra();
     }
+    mouse_ = mouse;
     Moved(mouse);
 }
 

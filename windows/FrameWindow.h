@@ -110,6 +110,9 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     virtual void MouseLost() {}
 
     void ShowMenu();
+    /// A key went down while the window is the active one; Shift, Escape and Backspace are the
+    /// frame's.
+    virtual void KeyPressed(const KeyEvent& /*key*/) {}
 
     // Items and keys of the frame.
     WindowMenuItem CopyItem(std::string_view caption);
@@ -141,6 +144,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     void Paint();
     void ClearSurface();
     void SaveImage();
+    void DropLastCorner();
     bool IsOnPage();
     const SheetTable& Keys();
     SheetKey FormKey(std::string key, double most, Twips (Form::*read)() const,
@@ -152,6 +156,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     std::unique_ptr<SheetTable> keys_;
     std::unique_ptr<Timer> rest_;  // ticks once the size has rested; made by the first resize
     Tausta tausta_;
+    MouseEvent mouse_;  // its last move
     bool EleKaynnissa = false;
     bool paalla_ = false;   // drawing goes to the overlay
     bool ready_ = false;    // set up; a change of size before that is not the user's

@@ -123,6 +123,14 @@ void PanelFrame::SetButtonEnabled(PanelButton button, bool enabled) {
     }
 }
 
+void PanelFrame::SetButtonDown(PanelButton button, bool down) {
+    const auto found = buttons_.find(button);
+    if (found != buttons_.end()) {
+        found->second->setCheckable(down);
+        found->second->setChecked(down);
+    }
+}
+
 void PanelFrame::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setPen(ToQt(Grey(150)));

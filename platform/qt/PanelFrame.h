@@ -40,6 +40,7 @@ class PanelFrame : public QWidget {
     void Select(int slot);
     /// Buttons of the other frame are passed over.
     void SetButtonEnabled(PanelButton button, bool enabled);
+    void SetButtonDown(PanelButton button, bool down);
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -72,6 +72,10 @@ void QtMainForm::SetPanelButtonEnabled(PanelButton button, bool enabled) {
     window_->Panel().SetButtonEnabled(button, enabled);
 }
 
+void QtMainForm::SetPanelButtonDown(PanelButton button, bool down) {
+    window_->Panel().SetButtonDown(button, down);
+}
+
 std::unique_ptr<Form> QtMainForm::MakeChild(FormEvents& events) {
     return std::make_unique<QtForm>(window_->Area(), *active_, events);
 }

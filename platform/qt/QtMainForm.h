@@ -30,6 +30,7 @@ class QtMainForm : public MainForm {
     void SetPanelRow(int slot, const PanelRow& row) override;
     void SelectPanelRow(int slot) override;
     void SetPanelButtonEnabled(PanelButton button, bool enabled) override;
+    void SetPanelButtonDown(PanelButton button, bool down) override;
     std::unique_ptr<Form> MakeChild(FormEvents& events) override;
     std::unique_ptr<Kuva> MakeSurface() override;
     void ShowAbout(std::span<const std::string> lines) override;

@@ -86,6 +86,13 @@ void SidePanel::SetButtonEnabled(PanelButton button, bool enabled) {
     }
 }
 
+void SidePanel::SetButtonDown(PanelButton button, bool down) {
+    if (regions_ != nullptr) {
+        regions_->SetButtonDown(button, down);
+        definitions_->SetButtonDown(button, down);
+    }
+}
+
 void SidePanel::resizeEvent(QResizeEvent* /*event*/) {
     scroll_->setGeometry(0, 0, std::max(width(), kOpenWidth), height());
 }

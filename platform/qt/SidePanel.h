@@ -20,6 +20,7 @@ class SidePanel : public QWidget {
     void SetRow(int slot, const PanelRow& row) { FrameOf(slot).SetRow(slot, row); }
     void Select(int slot) { FrameOf(slot).Select(slot); }
     void SetButtonEnabled(PanelButton button, bool enabled);
+    void SetButtonDown(PanelButton button, bool down);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 

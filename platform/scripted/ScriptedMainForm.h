@@ -24,6 +24,7 @@ class ScriptedMainForm : public MainForm {
     void SetPanelRow(int slot, const PanelRow& row) override;
     void SelectPanelRow(int slot) override { selectedRows.push_back(slot); }
     void SetPanelButtonEnabled(PanelButton button, bool on) override { buttons[button] = on; }
+    void SetPanelButtonDown(PanelButton button, bool on) override { buttonsDown[button] = on; }
     std::unique_ptr<Form> MakeChild(FormEvents& formEvents) override;
     std::unique_ptr<Kuva> MakeSurface() override { return std::make_unique<RecordingKuva>(); }
     void ShowAbout(std::span<const std::string> lines) override;
@@ -42,6 +43,7 @@ class ScriptedMainForm : public MainForm {
     std::vector<PanelRow> rows;  ///< slot n is rows[n - 1]
     std::vector<int> selectedRows;
     std::map<PanelButton, bool> buttons;
+    std::map<PanelButton, bool> buttonsDown;
     std::vector<std::string> about;
     std::vector<ScriptedForm*> children;  ///< that exist now, in the order of their making
 

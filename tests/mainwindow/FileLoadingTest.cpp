@@ -163,7 +163,10 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     std::filesystem::create_directory(folder_.Path("FCS3.0"));
     const std::vector<std::string> files = TeeLista(folder_.Path());
     ASSERT_EQ(files.size(), 4U);
+    EXPECT_EQ(files[0], "tube1") << "in the order of their names";
     OpenFcs(folder_.Path(files[1]));
+    EXPECT_TRUE(platform.mainForm.Item("FileNextFile").enabled);
+    EXPECT_TRUE(platform.mainForm.Item("FileSaveFCS").enabled);
     const auto shown = [](int16_t window) { return Tiedostot(Ikkunat(window).FileIndex).FileName; };
     Choose("FileNextFile");
     EXPECT_EQ(shown(1), files[2]);
@@ -177,6 +180,7 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     EXPECT_EQ(shown(2), files[3]);
     Choose("FileNextFile");
     EXPECT_EQ(shown(2), files[3]) << "there is no way round";
+    EXPECT_EQ(platform.mainForm.status, "This is the last data file of its folder.");
     Choose("SelectAll");
     Choose("FilePreviousFile");
     EXPECT_EQ(shown(1), files[1]);
@@ -186,6 +190,13 @@ TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     EXPECT_TRUE(SeuraavaTiedosto(main, 1));
     EXPECT_EQ(shown(1), TeeLista(folder_.Path())[0]);
     EXPECT_TRUE(TeeLista("nowhere/").empty());
+    for (int i = 0; i < 2; ++i) {
+        Choose("FilePreviousFile");
+    }
+    EXPECT_EQ(platform.mainForm.status, "This is the first data file of its folder.");
+    platform.mainForm.children[0]->Close();
+    platform.mainForm.children[0]->Close();
+    EXPECT_FALSE(platform.mainForm.Item("FileNextFile").enabled);
 }
 
 TEST_F(FileLoadingTest, AFolderIsLookedThroughAgainWhenItHasChanged) {

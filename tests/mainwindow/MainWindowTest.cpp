@@ -36,7 +36,9 @@ TEST_F(MainWindowTest, MenuTreeStandsWhole) {
         }
     }
     EXPECT_EQ(shortcuts, (std::set<std::string>{"Ctrl+A", "Ctrl+C", "Ctrl+D", "Ctrl+H", "Ctrl+I",
-                                                "Ctrl+N", "Ctrl+O", "Ctrl+P", "F1"}));
+                                                "Ctrl+N", "Ctrl+O", "Ctrl+P", "Ctrl+S", "F1"}));
+    EXPECT_FALSE(platform.mainForm.Item("FileNextFile").enabled) << "there is no file to step from";
+    EXPECT_FALSE(platform.mainForm.Item("FileSaveFCS").enabled);
     EXPECT_TRUE(platform.mainForm.Item("CreateDotPlot").enabled);
     EXPECT_FALSE(platform.mainForm.Item("Printtaa").enabled);
     EXPECT_EQ(platform.mainForm.Item("SkriptiLista").caption, "SkriptiLista");

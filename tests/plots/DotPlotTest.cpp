@@ -83,7 +83,14 @@ TEST_F(DotPlotTest, GateShowsMembersOnly) {
     EXPECT_EQ(DotAt(form, 40, 40), (Rgb{9, 9, 9}.Pixel()));
     ASSERT_EQ(platform.popups.lastEntries[0].children.size(), 3U);
     EXPECT_EQ(platform.popups.lastEntries[0].children[2].caption, "empty");
+    EXPECT_TRUE(platform.popups.lastEntries[0].children[0].checked) << "as it was then";
+    EXPECT_TRUE(form.surface.HasText("Gate: gate"));
     ChoosePopup(form, 0, 2);
+    EXPECT_FALSE(platform.popups.lastEntries[0].children[0].checked);
+    EXPECT_TRUE(platform.popups.lastEntries[0].children[1].checked);
+    Populaatiot(4).Name = "a name that is too long for the margin of a small window";
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_TRUE(form.surface.HasText("Gate: a name that is too lo\u2026")) << "28 letters fit";
     EXPECT_EQ(form.surface.blocksPainted, 0U);
     EXPECT_TRUE(form.surface.HasText("a"));
     Populaatiot(4).Defined = false;
@@ -258,6 +265,7 @@ TEST_F(DotPlotTest, ChannelsFromTheAxesAndTheirFallback) {
     EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("x"), "3");
     ASSERT_EQ(platform.popups.lastEntries.size(), 3U);
     EXPECT_EQ(platform.popups.lastEntries[2].caption, "c");
+    EXPECT_TRUE(platform.popups.lastEntries[0].checked) << "the channel in use until then";
     form.Press(10, 100, MouseButton::kRight);  // left of the y axis, dismissed
     EXPECT_EQ(IkkunaPaikassa(1)->Channels()->AnnaKanava("y"), "2") << "nothing was chosen";
     form.Press(10, 18, MouseButton::kRight);  // above the y axis it is the plot's menu

@@ -106,6 +106,42 @@ TEST_F(GestureTest, ClosesByRightButtonAndCancelsByItOrByTheButton) {
     EXPECT_EQ(form_.surface.AutoRedraw(), true);
 }
 
+TEST_F(GestureTest, AnArmedRegionIsSeenAndCanBeCalledOff) {
+    const std::string& status = platform.mainForm.status;
+    bool& down = platform.mainForm.buttonsDown[PanelButton::kLuoUusiRegion];
+    Arm();
+    EXPECT_TRUE(down);
+    EXPECT_TRUE(status.starts_with("Click the corners; right click closes; Esc cancels"));
+    Click(68, 68);
+    Click(168, 68);
+    form_.Move(100, 100);
+    form_.KeyDown(kKeyBackspace);
+    EXPECT_EQ(KulmienMaara, 1);
+    EXPECT_EQ(form_.surface.strokes.back().x1, 68) << "the line starts at the corner before";
+    EXPECT_EQ(form_.surface.strokes.back().x2, 100);
+    form_.KeyDown(kKeyBackspace);
+    EXPECT_TRUE(UusiRegionPaalla && !RegionAloitettu);
+    EXPECT_TRUE(form_.surface.AutoRedraw());
+    form_.KeyDown(kKeyBackspace);
+    Click(50, 50);
+    Click(60, 50);
+    form_.KeyDown(kKeyEscape);
+    ExpectIdle();
+    EXPECT_FALSE(down);
+    EXPECT_EQ(status, "");
+    EXPECT_FALSE(Populaatiot(1).Defined);
+
+    DrawSquare();
+    EXPECT_FALSE(down);
+    EXPECT_EQ(status, "");
+    form_.Press(100, 100);
+    form_.Move(150, 150);
+    form_.KeyDown(kKeyEscape);
+    form_.Release(150, 150);
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2500) << "a drag that was called off";
+    ExpectIdle();
+}
+
 TEST_F(GestureTest, OtherWindowsTakeNoPartInADrawing) {
     NewDotPlot();
     ScriptedForm& other = LastForm();
@@ -279,6 +315,7 @@ TEST_F(GestureTest, PanelCommandsRenameDeleteAndRecolour) {
     platform.dialogs.texts = {"Cells or nobody"};
     user.PanelButtonPressed(PanelButton::kLuoUusiMaaritelma);
     EXPECT_EQ(platform.dialogs.messages.back().text, "Error in the definition: nobody");
+    EXPECT_EQ(platform.dialogs.lastPreset, "Cells or nobody") << "to be mended";
     EXPECT_EQ(Populaatiot(17).Name, "not Cells");
 
     platform.dialogs.colors = {{1, 2, 3}, {4, 5, 6}};
@@ -297,6 +334,7 @@ TEST_F(GestureTest, PanelCommandsRenameDeleteAndRecolour) {
     EXPECT_TRUE(Populaatiot(1).Defined);
     user.PanelButtonPressed(PanelButton::kPoistaRegion);
     EXPECT_FALSE(Populaatiot(1).Defined || Populaatiot(17).Defined) << "the definition lost it";
+    EXPECT_EQ(platform.mainForm.status, "No longer defined: not Cells");
     EXPECT_EQ(Members(1), (std::vector<int>{0, 0, 0, 0}));
     EXPECT_EQ(platform.mainForm.rows[16].caption, "Not defined");
     EXPECT_FALSE(buttons[PanelButton::kPoistaRegion]);

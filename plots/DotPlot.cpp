@@ -46,7 +46,7 @@ void DotPlot::DrawPicture(const PlotArea& area) {
     density_.Piirra(area, UsedData(file, view_.KuvanVali()));
     if (regions_->OnkoViivat()) {
         PiirraAluerajat(Surface(), area, regions_->Nakyma(), line);
-        PiirraAlueidenNimet(Surface(), area, regions_->Nakyma());
+        PiirraAlueidenNimet(Surface(), area, regions_->Nakyma(), Background().BackColor());
     }
     view_.DrawFastMark(area);
     view_.DrawGate();

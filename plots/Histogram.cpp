@@ -58,7 +58,7 @@ void Histogram::DrawPicture(const PlotArea& area) {
     PiirraXTikit(Surface(), area, channel, line);
     if (regions_->OnkoViivat()) {
         PiirraMarkkerit(Surface(), area, regions_->Nakyma(), line);
-        PiirraMarkkereidenNimet(Surface(), area, regions_->Nakyma());
+        PiirraMarkkereidenNimet(Surface(), area, regions_->Nakyma(), Background().BackColor());
     }
     view_.DrawFastMark(area);
     view_.DrawGate();

@@ -33,11 +33,12 @@ void PiirraMarkkerit(Kuva& surface, const PlotArea& area, const RegionView& view
     });
 }
 
-void PiirraMarkkereidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view) {
+void PiirraMarkkereidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view,
+                             Rgb ground) {
     KayRegionit(view, [&](Populaatio& marker, int16_t slot) {
         if (slot != SiirrettavaOtsikko) {
             UpdateTitleBase(marker);
-            PiirraNimi(surface, area, marker, kMarkerName);
+            PiirraNimi(surface, area, marker, kMarkerName, ground);
         }
     });
 }

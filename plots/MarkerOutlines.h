@@ -23,6 +23,7 @@ MarkerPlace MarkkerinPaikka(const PlotArea& area, const Populaatio& marker);
 void PiirraMarkkerit(Kuva& surface, const PlotArea& area, const RegionView& view, Rgb color);
 
 /// Their names over the middle of each bar; the computed base of each goes into its record.
-void PiirraMarkkereidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view);
+void PiirraMarkkereidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view,
+                             Rgb ground);
 
 }  // namespace tessarin

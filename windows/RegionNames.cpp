@@ -16,8 +16,12 @@ PixelPoint NimenPaikka(const PlotArea& area, const Populaatio& region, NameBox b
     return {middle.x - NimenPuolileveys(region), middle.y - box.above};
 }
 
-void PiirraNimi(Kuva& surface, const PlotArea& area, const Populaatio& region, NameBox box) {
+void PiirraNimi(Kuva& surface, const PlotArea& area, const Populaatio& region, NameBox box,
+                Rgb ground) {
+    constexpr int kLetters = 12;  // their height, what hangs below the line included
     const PixelPoint place = NimenPaikka(area, region, box);
+    surface.Line(place.x - 1, place.y + 1, place.x + 2 * NimenPuolileveys(region),
+                 place.y + kLetters, ground, LineForm::kFilledBox);
     surface.SetCurrent(place.x, place.y);
     surface.Print(region.Name);
 }

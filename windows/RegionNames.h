@@ -20,7 +20,9 @@ double NimenPuolileveys(const Populaatio& region);
 /// handle. Reads the base that drawing the names left in the record.
 PixelPoint NimenPaikka(const PlotArea& area, const Populaatio& region, NameBox box);
 
-void PiirraNimi(Kuva& surface, const PlotArea& area, const Populaatio& region, NameBox box);
+/// Prints the name, on a ground of that colour so that it can be read on a cloud of any colour.
+void PiirraNimi(Kuva& surface, const PlotArea& area, const Populaatio& region, NameBox box,
+                Rgb ground);
 
 /// Whether the mouse is over the name or next to it: more than the handle to take hold of.
 bool OnkoNimenLahella(const PlotArea& area, const Populaatio& region, NameBox box,

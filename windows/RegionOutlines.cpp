@@ -51,11 +51,11 @@ void PiirraAluerajat(Kuva& surface, const PlotArea& area, const RegionView& view
     });
 }
 
-void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view) {
+void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view, Rgb ground) {
     KayRegionit(view, [&](Populaatio& polygon, int16_t slot) {
         if (slot != SiirrettavaOtsikko) {
             UpdateTitleBase(polygon);
-            PiirraNimi(surface, area, polygon, kPolygonName);
+            PiirraNimi(surface, area, polygon, kPolygonName, ground);
         }
     });
 }

@@ -23,6 +23,6 @@ void PiirraMonikulmio(Kuva& surface, std::span<const PixelPoint> corners, Rgb co
 void PiirraAluerajat(Kuva& surface, const PlotArea& area, const RegionView& view, Rgb color);
 
 /// Their names, likewise; the computed base of each name goes into its record.
-void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view);
+void PiirraAlueidenNimet(Kuva& surface, const PlotArea& area, const RegionView& view, Rgb ground);
 
 }  // namespace tessarin

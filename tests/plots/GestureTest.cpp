@@ -71,7 +71,7 @@ TEST_F(GestureTest, DrawsARegionThatHoldsForEveryFile) {
     EXPECT_EQ(Tiedostot(2).Membership(1, 1), 1);
     EXPECT_EQ(Tiedostot(3).Membership(1, 1), 0) << "a file without the channel has no members";
     EXPECT_EQ(platform.mainForm.rows[0].caption, "Poly-1");
-    EXPECT_EQ(DotAt(form_, 100, 100), Populaatiot(1).Color().Pixel());
+    EXPECT_EQ(DotAt(form_, 60, 60), Populaatiot(1).Color().Pixel());
     ExpectIdle();
 }
 
@@ -327,7 +327,7 @@ TEST_F(GestureTest, PanelCommandsRenameDeleteAndRecolour) {
     EXPECT_EQ(Populaatiot(17).Color(), (Rgb{4, 5, 6}));
     user.PanelLabelDoubleClicked(1);
     EXPECT_EQ(platform.mainForm.rows[0].label, "T");
-    EXPECT_EQ(DotAt(form_, 100, 100), 0xffffffff);
+    EXPECT_EQ(DotAt(form_, 60, 60), 0xffffffff);
 
     platform.dialogs.answers = {false, true};
     user.PanelButtonPressed(PanelButton::kPoistaRegion);

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
+#include <ios>
 #include <limits>
 #include <new>
 #include <optional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/BusyPointer.h"
@@ -17,6 +17,7 @@
 #include "core/FcsKeywords.h"
 #include "core/FcsOddities.h"
 #include "core/FcsText.h"
+#include "core/InputFile.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/TableSize.h"
@@ -29,47 +30,6 @@ using Kind = ChannelKeywords::Kind;
 
 constexpr int32_t kOldScaleRange = 10000;  // 10 to the power 1024/256
 constexpr double kOldScaleDivider = 256;   // channel numbers a decade
-
-// A file on disk, open for reading. Anything but a regular file (a pipe, a device, a folder) is
-// left alone: reading it could wait for ever.
-class Source {
-  public:
-    explicit Source(const std::string& path) {
-        std::error_code error;
-        if (!std::filesystem::is_regular_file(path, error)) {
-            return;
-        }
-        size_ = std::filesystem::file_size(path, error);
-        if (!error) {
-            in_.open(path, std::ios::binary);
-        }
-    }
-
-    bool IsOpen() const { return in_.is_open(); }
-    uint64_t Size() const { return size_; }
-    std::istream& Stream() { return in_; }
-
-    // Up to `count` bytes from `offset`; fewer when the file ends before.
-    std::string Read(uint64_t offset, uint64_t count) {
-        std::string bytes;
-        if (offset < size_) {
-            bytes.resize(std::min(count, size_ - offset));
-            GoTo(offset);
-            in_.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-            bytes.resize(static_cast<std::size_t>(in_.gcount()));
-        }
-        return bytes;
-    }
-
-    void GoTo(uint64_t offset) {
-        in_.clear();
-        in_.seekg(static_cast<std::streamoff>(offset));
-    }
-
-  private:
-    std::ifstream in_;
-    uint64_t size_ = 0;
-};
 
 // The TEXT segment with its delimiter, the first byte, replaced by the one used from here on.
 std::string NormalisedText(std::string bytes) {
@@ -90,21 +50,38 @@ bool HasOldScale(const Tiedosto& file) {
            (cytometer == "LSRII" && file.FcsMajor == 2);
 }
 
+// A record of a file that is not taken, and why.
+Tiedosto Refused(std::string why) {
+    Tiedosto refused;
+    refused.Refusal = std::move(why);
+    return refused;
+}
+
+int32_t Fingerprint(InputFile& source) {
+    constexpr uint64_t kMostBytes = 80000;
+    const std::string bytes = source.Read(0, kMostBytes);
+    float sum = 0;
+    for (std::size_t i = 1; i < bytes.size(); i += 2) {
+        const double code = static_cast<unsigned char>(bytes[i]);
+        sum = static_cast<float>(static_cast<double>(sum) + code / 100);
+    }
+    return static_cast<int32_t>(sum);
+}
+
 // One reading of one file; its steps stand in the order in which they run.
 class FcsReading {
   public:
-    FcsReading(const std::string& path, int32_t fingerprint)
-        : path_(path), fingerprint_(fingerprint), source_(path) {}
+    FcsReading(InputFile& source, std::string path, int32_t fingerprint)
+        : source_(source), path_(std::move(path)), fingerprint_(fingerprint) {}
 
     Tiedosto Read() {
-        if (!source_.IsOpen() || !ReadHeader() || !ReadCounts()) {
-            return {};
+        if (!ReadHeader() || !ReadCounts()) {
+            return Refused(refusal_);
         }
         ReadTexts();
         const ChannelKeywords keywords(file_.Otsikko.Text, file_.ChannelCount);
-        if (!ReadChannels(keywords) || !SizeTables() ||
-            !LueKompensaatio(file_.Otsikko.Text, file_, oddities_)) {
-            return {};
+        if (!ReadChannels(keywords) || !SizeTables() || !ReadCompensation()) {
+            return Refused(refusal_);
         }
         NoteFormat(file_, keywords, oddities_);
         NoteScales(file_, keywords, oddities_);
@@ -115,17 +92,23 @@ class FcsReading {
         ReadDisplay(keywords);
         NoteRanges(file_, oddities_);
         file_.RawData = file_.Data;
-        file_.Fingerprint = fingerprint_ != 0 ? fingerprint_ : TiedostonSormenjalki(path_);
+        file_.Fingerprint = fingerprint_ != 0 ? fingerprint_ : Fingerprint(source_);
         file_.Oddities = oddities_.Line();
-        file_.Valid = file_.Fingerprint != 0;
+        file_.Valid = true;
         return std::move(file_);
     }
 
   private:
+    bool Refuse(std::string why) {
+        refusal_ = std::move(why);
+        return false;
+    }
+
     bool ReadHeader() {
-        const auto header = TakeHeader(source_.Read(0, kHeaderLength));
+        const std::string bytes = source_.Read(0, kHeaderLength);
+        const auto header = TakeHeader(bytes);
         if (!header) {
-            return false;
+            return Refuse(WhyNoHeader(bytes));
         }
         header_ = *header;
         FcsOtsikko& kept = file_.Otsikko;
@@ -151,9 +134,11 @@ class FcsReading {
     bool ReadCounts() {
         const auto events = ParseWholeNumber(Keyword("\\$TOT"));
         const auto channels = ParseWholeNumber(Keyword("\\$PAR"));
-        if (!events || *events < 0 || !channels || *channels < 1 ||
-            *channels > std::numeric_limits<int16_t>::max()) {
-            return false;
+        if (!events || *events < 0) {
+            return Refuse("$TOT is missing or no number of events");
+        }
+        if (!channels || *channels < 1 || *channels > std::numeric_limits<int16_t>::max()) {
+            return Refuse("$PAR is missing or no number of channels");
         }
         file_.EventCount = std::min(*events, MaxLoadedEvents);
         file_.Otsikko.LoadedEvents = file_.EventCount;
@@ -182,7 +167,7 @@ class FcsReading {
             Kanava& kanava = file_.Channels(channel);
             const auto range = ParseNumber(keywords.Value(Kind::kRange, channel));
             if (!range) {
-                return false;
+                return Refuse("$P" + std::to_string(channel) + "R is missing or no number");
             }
             kanava.Name = keywords.Value(Kind::kName, channel);
             kanava.Range = ToInt32(Rounded(*range));
@@ -199,12 +184,17 @@ class FcsReading {
     // False when no such tables should be had; throws when they cannot be had.
     bool SizeTables() {
         if (!OvatkoTaulutJarkevat(file_.EventCount, file_.ChannelCount, source_.Size())) {
-            return false;
+            return Refuse("its tables would be many times larger than the file");
         }
         file_.Compensation.Mitoita(file_.ChannelCount, file_.ChannelCount);
         file_.Data.Mitoita(file_.EventCount, file_.ChannelCount);
         file_.Membership.Mitoita(file_.EventCount, kPopulationSlots);
         return true;
+    }
+
+    bool ReadCompensation() {
+        return LueKompensaatio(file_.Otsikko.Text, file_, oddities_) ||
+               Refuse("$COMP is for more channels than the file has");
     }
 
     // Where DATA begins: the header tells, and where it says nothing, $BEGINDATA.
@@ -274,42 +264,51 @@ class FcsReading {
         }
     }
 
+    InputFile& source_;
     std::string path_;
     int32_t fingerprint_;
-    Source source_;
     FcsHeader header_;
     Tiedosto file_;
     FcsOddities oddities_;
+    std::string refusal_;
 };
 
 }  // namespace
 
 bool OnkoFcs(const std::string& path) {
-    Source source(path);
-    return source.IsOpen() && IsReadableVersion(source.Read(0, kVersionLength));
+    InputFile source(path);
+    try {
+        return source.IsOpen() && IsReadableVersion(source.Read(0, kVersionLength));
+    } catch (const std::ios_base::failure&) {
+        return false;
+    }
 }
 
 int32_t TiedostonSormenjalki(const std::string& path) {
-    constexpr uint64_t kMostBytes = 80000;
-    Source source(path);
-    if (!source.IsOpen()) {
+    InputFile source(path);
+    try {
+        return source.IsOpen() ? Fingerprint(source) : 0;
+    } catch (const std::ios_base::failure&) {
         return 0;
     }
-    const std::string bytes = source.Read(0, kMostBytes);
-    float sum = 0;
-    for (std::size_t i = 1; i < bytes.size(); i += 2) {
-        const double code = static_cast<unsigned char>(bytes[i]);
-        sum = static_cast<float>(static_cast<double>(sum) + code / 100);
-    }
-    return static_cast<int32_t>(sum);
 }
 
 Tiedosto LueFCS(const std::string& path, int32_t fingerprint) {
+    InputFile source(path);
+    return LueFCS(source, path, fingerprint);
+}
+
+Tiedosto LueFCS(InputFile& source, const std::string& path, int32_t fingerprint) {
     const BusyPointer busy;
+    if (!source.IsOpen()) {
+        return Refused(source.Refusal());
+    }
     try {
-        return FcsReading(path, fingerprint).Read();
+        return FcsReading(source, path, fingerprint).Read();
+    } catch (const std::ios_base::failure& failure) {
+        return Refused(ReadFailure(failure));
     } catch (const std::bad_alloc&) {
-        Tiedosto refused;
+        Tiedosto refused = Refused("there is not enough memory");
         refused.OutOfMemory = true;
         return refused;
     }

@@ -11,6 +11,8 @@
 
 namespace tessarin {
 
+class InputFile;
+
 /// `OnkoFcs` means is it FCS: True when the file begins with "FCS3.0" or "FCS2.0". Reads six
 /// bytes. False for anything that is not a regular file or cannot be read.
 bool OnkoFcs(const std::string& path);
@@ -24,10 +26,14 @@ int32_t TiedostonSormenjalki(const std::string& path);
 /// `fingerprint` is that of the file when the caller knows it, else 0.
 /// Success: `Valid` is True; `RawData` and `Data` hold the same values, log channels converted to
 /// linear ones, and compensation is prepared but not applied; `Membership` is all 0.
-/// Failure: `Valid` is False and the rest of the record is empty but for `OutOfMemory`. A file is
-/// refused when its version is another, a count or range that it needs is missing or no number, or
-/// its tables cannot be had in memory. At most `MaxLoadedEvents` events are read.
+/// Failure: `Valid` is False, `Refusal` says why, and the rest of the record is empty but for
+/// `OutOfMemory`. A file is refused when it cannot be read, its version is another, a count or
+/// range that it needs is missing or no number, or its tables cannot be had in memory. At most
+/// `MaxLoadedEvents` events are read.
 Tiedosto LueFCS(const std::string& path, int32_t fingerprint = 0);
+
+/// The same for a file that somebody has opened, or could not open.
+Tiedosto LueFCS(InputFile& source, const std::string& path, int32_t fingerprint = 0);
 
 /// `LisaaKanava` means add a channel: one more behind the last of a loaded file, its values and
 /// compensation factors 0 and its name empty. False, with the file as it was, when there is no

@@ -32,6 +32,8 @@ struct DataReport {
 /// Integers are 24 bits wide: the most significant of four bytes is passed over. Each byte is
 /// read only while there is one, so with data that end early the rest of the table repeats what
 /// the byte buffer last held. With kNotRead nothing is read and the table stays as it is.
+/// A failing disk is no end: what `in` throws then passes through.
+/// REQUIRES: `in` throws when it goes bad.
 DataReport LueTapahtumat(std::istream& in, const ValueFormat& format,
                          TapahtumaTaulu<float>& values);
 

@@ -1,6 +1,7 @@
 #include "core/FcsHeader.h"
 
 #include "core/Numbers.h"
+#include "core/Text.h"
 
 namespace tessarin {
 namespace {
@@ -36,6 +37,19 @@ std::optional<FcsHeader> TakeHeader(std::string_view bytes) {
     }
     header.dataEnd = Offset(bytes, 34).value_or(0);
     return header;
+}
+
+std::string WhyNoHeader(std::string_view bytes) {
+    const std::string_view version = bytes.substr(0, kVersionLength);
+    if (version.starts_with("FCS") && version.size() == kVersionLength &&
+        !IsReadableVersion(version)) {
+        return "version " + DecodeText(version) + " is not read";
+    }
+    if (!IsReadableVersion(version)) {
+        return "it does not begin like an FCS file";
+    }
+    return bytes.size() < kHeaderLength ? "it ends within the header"
+                                        : "its header does not tell where TEXT is";
 }
 
 }  // namespace tessarin

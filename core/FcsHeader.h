@@ -31,4 +31,7 @@ bool IsReadableVersion(std::string_view version);
 /// be read, or the place of TEXT is no number.
 std::optional<FcsHeader> TakeHeader(std::string_view bytes);
 
+/// Why `TakeHeader` gives nothing for them, as a phrase for the user. REQUIRES: it does.
+std::string WhyNoHeader(std::string_view bytes);
+
 }  // namespace tessarin

@@ -1,8 +1,6 @@
 #include "core/TXTReader.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <limits>
 #include <new>
 #include <optional>
@@ -10,6 +8,7 @@
 
 #include "core/BusyPointer.h"
 #include "core/FCSReader.h"
+#include "core/InputFile.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/TableSize.h"
@@ -20,20 +19,12 @@ namespace {
 
 constexpr int32_t kTextRange = 1023;  // of every channel of a text table
 
-std::optional<std::string> ReadAll(const std::string& path) {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        return std::nullopt;
-    }
-    const uint64_t size = std::filesystem::file_size(path, error);
-    std::ifstream in(path, std::ios::binary);
-    if (error || !in) {
-        return std::nullopt;
-    }
-    std::string bytes(size, '\0');
-    in.read(bytes.data(), static_cast<std::streamsize>(size));
-    bytes.resize(static_cast<std::size_t>(in.gcount()));
-    return bytes;
+constexpr uint64_t kLargestTable = uint64_t{2} << 30U;
+
+TxtTulos Refused(std::string why) {
+    TxtTulos refused;
+    refused.file.Refusal = std::move(why);
+    return refused;
 }
 
 // Gives the lines of a text one after the other, without their ends.
@@ -131,8 +122,14 @@ class TxtReading {
         : path_(std::move(path)), text_(std::move(text)), lines_(WithoutMark(text_)) {}
 
     TxtTulos Read() {
-        if (lines_.AtEnd() || !ReadTitles() || !SizeTables()) {
-            return {};
+        if (lines_.AtEnd()) {
+            return Refused("it is empty");
+        }
+        if (!ReadTitles()) {
+            return Refused("its first line names no channel, or more than 32767");
+        }
+        if (!SizeTables()) {
+            return Refused("its tables would be many times larger than the file");
         }
         for (int32_t event = 1; event <= file_.EventCount; ++event) {
             ReadRow(event);
@@ -233,12 +230,18 @@ class TxtReading {
 }  // namespace
 
 TxtTulos LueTXT(const std::string& path) {
+    InputFile source(path);
+    return LueTXT(source, path);
+}
+
+TxtTulos LueTXT(InputFile& source, const std::string& path) {
     const BusyPointer busy;
     try {
-        auto text = ReadAll(path);
-        return text ? TxtReading(path, std::move(*text)).Read() : TxtTulos{};
+        WholeFile read = ReadWhole(source, kLargestTable);
+        return read.refusal.empty() ? TxtReading(path, std::move(read.bytes)).Read()
+                                    : Refused(std::move(read.refusal));
     } catch (const std::bad_alloc&) {
-        TxtTulos refused;
+        TxtTulos refused = Refused("there is not enough memory");
         refused.file.OutOfMemory = true;
         return refused;
     }

@@ -9,6 +9,8 @@
 
 namespace tessarin {
 
+class InputFile;
+
 /// What reading a table gave.
 struct TxtTulos {
     Tiedosto file;
@@ -22,9 +24,13 @@ struct TxtTulos {
 /// passed over; a cell may stand in quotes; a comma stands for the decimal point where the cell is
 /// otherwise no number. Cells beyond the titles are left out. At most `MaxLoadedEvents` rows are
 /// read. Rows left out and decimal commas are told in `Oddities`.
-/// Failure: `file.Valid` is False for a file that cannot be read, is empty, has no channel or more
-/// than 32767, or whose tables cannot be had in memory.
+/// Failure: `file.Valid` is False, and `file.Refusal` says why, for a file that cannot be read, is
+/// empty or larger than 2 GB, has no channel or more than 32767, or whose tables cannot be had in
+/// memory.
 TxtTulos LueTXT(const std::string& path);
+
+/// The same for a file that somebody has opened, or could not open.
+TxtTulos LueTXT(InputFile& source, const std::string& path);
 
 /// The table as text for the clipboard: each value and a tab, a line feed after each event. With
 /// row names each line begins with its name and a tab, and a line of titles comes first.

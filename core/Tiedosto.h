@@ -39,6 +39,7 @@ struct FcsOtsikko {
 struct Tiedosto {
     bool Valid = false;        ///< the reader could use the file
     bool OutOfMemory = false;  ///< it could not, because the tables cannot be had in memory
+    std::string Refusal;       ///< why not, as one phrase for the user; empty when `Valid`
     FcsOtsikko Otsikko;
     int16_t FcsMajor = 0;  ///< 3 for "FCS3.0", 2 for "FCS2.0"
     std::string FileName;  ///< without folder

@@ -1,6 +1,8 @@
 // Whole files: what is kept of them, what is refused, and what gets a word.
 #include <sys/stat.h>
 
+#include "tests/support/FailingDisk.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/SessionFixture.h"
 
 namespace tessarin {
@@ -35,14 +37,30 @@ TEST_F(FcsFileTest, KeepsKeywordsWhateverTheDelimiter) {
     ExpectRefused(Read(built));
 }
 
-TEST_F(FcsFileTest, RefusesWhatItCannotUse) {
-    for (const char* changes :
-         {"$TOT", "$TOT=many", "$TOT=-1", "$TOT=99999999999", "$PAR", "$PAR=0", "$PAR=3",
-          "$PAR=32768", "$P2R", "$P1R=wide", "$COMP=3,0,0,0,0,0,0,0,0,0", "version=FCS3.1",
-          "version=fcs3.0", "text begin=99999999;text end=99999999", "text end=10",
-          "text begin=here", "text begin=-58"}) {
+TEST_F(FcsFileTest, RefusesWhatItCannotUseAndSaysWhy) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"$TOT", "$TOT is missing or no number of events"},
+        {"$TOT=many", "$TOT is missing"},
+        {"$TOT=-1", "$TOT is missing"},
+        {"$TOT=99999999999", "$TOT is missing"},
+        {"$PAR", "$PAR is missing or no number of channels"},
+        {"$PAR=0", "$PAR is missing"},
+        {"$PAR=32768", "$PAR is missing"},
+        {"$PAR=3", "$P3R is missing or no number"},
+        {"$P2R", "$P2R is missing"},
+        {"$P1R=wide", "$P1R is missing"},
+        {"$COMP=3,0,0,0,0,0,0,0,0,0", "$COMP is for more channels than the file has"},
+        {"version=FCS3.1", "version FCS3.1 is not read"},
+        {"version=fcs3.0", "it does not begin like an FCS file"},
+        {"text begin=99999999;text end=99999999", "$TOT is missing"},
+        {"text end=10", "its header does not tell where TEXT is"},
+        {"text begin=here", "does not tell where"},
+        {"text begin=-58", "does not tell where"}};
+    for (const auto& [changes, why] : cases) {
         SCOPED_TRACE(changes);
-        ExpectRefused(Read(Changed(changes)));
+        const Tiedosto file = Read(Changed(changes));
+        ExpectRefused(file);
+        EXPECT_NE(file.Refusal.find(why), std::string::npos) << file.Refusal;
     }
     MaxLoadedEvents = 2147483647;
     ExpectRefused(Read(Changed("$TOT=2147483647")));
@@ -56,11 +74,33 @@ TEST_F(FcsFileTest, RefusesWhatIsNoFile) {
     }
     const std::string pipe = folder.Path("pipe");
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    for (const std::string& path : {pipe, folder.Path(), folder.Path("missing"), std::string()}) {
-        ExpectRefused(LueFCS(path));
+    const std::string secret = folder.Write("secret", bytes);
+    ASSERT_EQ(chmod(secret.c_str(), 0), 0);
+    const std::pair<std::string, std::string> cases[] = {
+        {pipe, "it is no regular file"},
+        {folder.Path(), "it is a folder"},
+        {folder.Path("missing"), "No such file or directory"},
+        {secret, "Permission denied"},
+        {"", "No such file or directory"}};
+    const OrdinaryUser user;
+    for (const auto& [path, why] : cases) {
+        const Tiedosto file = LueFCS(path);
+        ExpectRefused(file);
+        EXPECT_EQ(file.Refusal, why) << path;
         EXPECT_FALSE(OnkoFcs(path)) << path;
         EXPECT_EQ(TiedostonSormenjalki(path), 0) << path;
     }
+}
+
+TEST_F(FcsFileTest, AFailingDiskIsNoEndOfTheData) {
+    const std::string bytes = Changed("$COM").Bytes();
+    for (std::size_t good = 0; good < bytes.size(); ++good) {
+        const auto source = BadFile(bytes, good);
+        const Tiedosto file = LueFCS(*source, "tube.fcs");
+        ExpectRefused(file);
+        EXPECT_EQ(file.Refusal, kReadError) << good;
+    }
+    EXPECT_TRUE(LueFCS(*BadFile(bytes, bytes.size()), "tube.fcs").Valid);
 }
 
 TEST_F(FcsFileTest, WhatIsOddGetsAWord) {

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <random>
 
 #include "core/Muuttujat.h"
+#include "tests/support/FailingDisk.h"
 #include "tests/support/SessionFixture.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -57,8 +60,16 @@ TEST_F(TxtReaderTest, WhatIsNoNumberIsZeroAndCounted) {
 TEST_F(TxtReaderTest, HostileTablesAreRefusedOrOpenSmall) {
     EXPECT_FALSE(Read("").file.Valid);
     EXPECT_FALSE(Read("Name\n1\n").file.Valid) << "no channel";
-    EXPECT_FALSE(LueTXT(folder_.Path("missing.txt")).file.Valid);
-    EXPECT_FALSE(LueTXT(folder_.Path()).file.Valid);
+    EXPECT_EQ(LueTXT(folder_.Path("missing.txt")).file.Refusal, "No such file or directory");
+    EXPECT_EQ(LueTXT(folder_.Path()).file.Refusal, "it is a folder");
+    const std::string table = "A\tB\n1\t2\n3\t4\n";
+    ASSERT_TRUE(LueTXT(*BadFile(table, table.size()), "t.txt").file.Valid);
+    for (std::size_t good = 0; good < table.size(); ++good) {
+        EXPECT_EQ(LueTXT(*BadFile(table, good), "t.txt").file.Refusal, kReadError) << good;
+    }
+    std::ofstream(folder_.Path("sparse.txt")) << "A\n";
+    std::filesystem::resize_file(folder_.Path("sparse.txt"), uint64_t{3} << 30U);
+    EXPECT_EQ(LueTXT(folder_.Path("sparse.txt")).file.Refusal, "it is larger than 2048 MB");
     EXPECT_FALSE(Read(std::string(100000, '\t') + "\n1\n").file.Valid);
     EXPECT_FALSE(Read(std::string(32000, '\t') + "\n" + std::string(200000, '\n')).file.Valid)
         << "tables that the file only promises";

@@ -32,6 +32,7 @@ class SessionTest : public testing::Test {
 /// What a refused file must look like.
 inline void ExpectRefused(const Tiedosto& file) {
     EXPECT_FALSE(file.Valid);
+    EXPECT_NE(file.Refusal, "");
     EXPECT_EQ(file.Fingerprint, 0);
     EXPECT_EQ(file.Path() + file.Otsikko.Version + file.Otsikko.Text + file.Oddities, "");
     EXPECT_EQ(file.EventCount + file.ChannelCount + file.Channels.size(), 0);

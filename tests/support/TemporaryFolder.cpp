@@ -12,6 +12,8 @@ TemporaryFolder::TemporaryFolder() {
     if (mkdtemp(path_.data()) == nullptr) {
         throw std::runtime_error("no temporary folder could be made");
     }
+    // Any user may look into it: tests that run as root become somebody else.
+    std::filesystem::permissions(path_, static_cast<std::filesystem::perms>(0755));
 }
 
 TemporaryFolder::~TemporaryFolder() {

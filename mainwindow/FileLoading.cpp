@@ -11,6 +11,7 @@
 #include "core/Muuttujat.h"
 #include "core/PopulationEvaluation.h"
 #include "core/TXTReader.h"
+#include "core/Text.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 
@@ -73,7 +74,16 @@ void CompensateOrRefuse(Tiedosto& file) {
     } catch (const std::bad_alloc&) {
         file = Tiedosto();
         file.OutOfMemory = true;
+        file.Refusal = "there is not enough memory";
     }
+}
+
+// The message is the same for every file that is no good; the status bar says what is wrong.
+void TellRefusal(PaaIkkuna& main, const std::string& path, const Tiedosto& file) {
+    main.Services().dialogs.Message(file.OutOfMemory ? "There is not enough memory to load the file"
+                                                     : "The file was not valid flow cytometry file",
+                                    "Load error");
+    main.Huomauta(SplitPath(path).name + ": " + file.Refusal);
 }
 
 // Reads into a slot; `fingerprint` is the file's or, when nobody knows it yet, 0. On refusal the
@@ -85,10 +95,7 @@ bool ReadInto(PaaIkkuna& main, const std::string& path, int32_t fingerprint, int
         CompensateOrRefuse(file);
     }
     if (!file.Valid) {
-        main.Services().dialogs.Message(file.OutOfMemory
-                                            ? "There is not enough memory to load the file"
-                                            : "The file was not valid flow cytometry file",
-                                        "Load error");
+        TellRefusal(main, path, file);
         return false;
     }
     Tiedostot(slot) = std::move(file);

@@ -23,7 +23,7 @@ bool OnkoNakyma(const std::string& path);
 /// read into that slot, replacing what is there, and populations are left as they are.
 ///
 /// True when a window was given the file. A refused file and a full table are told to the user,
-/// and nothing changes.
+/// and nothing changes; why a file is refused stands in the status bar.
 bool TiedostonLukuToimenPiteet(PaaIkkuna& main, const std::string& path, int16_t window,
                                int16_t slot, LukuTapa way = LukuTapa::kFcs);
 

@@ -12,6 +12,7 @@
 #include "mainwindow/FolderList.h"
 #include "mainwindow/WindowList.h"
 #include "tests/support/FcsBuilder.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/ProgramFixture.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -107,10 +108,15 @@ TEST_F(FileLoadingTest, RefusedFilesChangeNothing) {
     ASSERT_EQ(platform.dialogs.messages.size(), 1U) << "once, not for each window";
     EXPECT_EQ(platform.dialogs.messages[0].text, "The file was not valid flow cytometry file");
     EXPECT_EQ(platform.dialogs.messages[0].title, "Load error");
+    EXPECT_EQ(platform.mainForm.status, "bad.fcs: version FCS3.1 is not read");
     EXPECT_EQ(Tiedostot(1).FileName, "good.fcs");
     EXPECT_EQ(Ikkunat(1).FileIndex, 1);
     EXPECT_FALSE(TiedostonLukuToimenPiteet(main, bad, 0, 1));
     EXPECT_TRUE(Tiedostot(1).Valid) << "a named slot keeps its file too";
+    std::filesystem::permissions(good, std::filesystem::perms::none);
+    const OrdinaryUser user;
+    main.AvaaTiedosto(good);
+    EXPECT_EQ(platform.mainForm.status, "good.fcs: Permission denied");
 }
 
 TEST_F(FileLoadingTest, TwentyFilesAndNoMore) {
@@ -232,6 +238,7 @@ TEST_F(FileLoadingTest, TextTablesOpenLikeFiles) {
     platform.dialogs.texts = {folder_.Write("empty.txt", "")};
     Choose("FileOpenTXT");
     EXPECT_EQ(platform.dialogs.messages.back().title, "Load error");
+    EXPECT_EQ(platform.mainForm.status, "empty.txt: it is empty");
     platform.mainForm.events->FilesDropped({folder_.Write("drop.TXT", "A\tB\n3\t4")});
     EXPECT_EQ(Tiedostot(Ikkunat(1).FileIndex).EventCount, 1) << "the last line needs no end";
 }

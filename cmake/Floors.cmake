@@ -24,7 +24,7 @@ endif()
 # Makes the library Tessarin::NAME from the files of the current folder. Its headers are included
 # as "FOLDER/Header.h" and can be seen only by targets that link it: each floor has an include
 # root of its own that holds nothing but a link to its folder, so an include of a floor that is
-# not linked finds no file. Each header is also compiled alone.
+# not linked finds no file. With TESSARIN_ALONE each header is also compiled alone.
 function(tessarin_floor NAME)
   cmake_parse_arguments(ARG "" "FOLDER" "SOURCES;LINKS" ${ARGN})
   file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR}
@@ -37,6 +37,9 @@ function(tessarin_floor NAME)
   endif()
 
   set(alone "")
+  if(NOT TESSARIN_ALONE AND ARG_SOURCES)
+    set(headers "")
+  endif()
   foreach(header ${headers})
     set(unit "${CMAKE_CURRENT_BINARY_DIR}/alone/${header}.cpp")
     file(CONFIGURE OUTPUT "${unit}" CONTENT "#include \"${ARG_FOLDER}/${header}\"\n")

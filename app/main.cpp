@@ -131,6 +131,11 @@ bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
     if (path.empty()) {
         return true;
     }
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        if (const auto window = IkkunaPaikassa(id)) {
+            window->PiirraLykatty();
+        }
+    }
     const Bitmap picture = platform.Main().Snapshot();
     const std::string type = std::filesystem::path(path).extension().string();
     QBuffer bytes;

@@ -4,6 +4,7 @@ Usage: end_to_end_test.py PROGRAM. Ends with status 77 where the display program
 """
 
 import os
+import resource
 import shutil
 import struct
 import sys
@@ -173,6 +174,26 @@ class EndToEnd(unittest.TestCase):
         self.exit_by_menu("Return")
         self.assertEqual(self.program.wait(timeout=20), 0)
         self.assertFalse(os.path.exists(autosave))
+
+    def test_the_program_ends_with_a_word_before_its_memory_is_gone(self):
+        desktop = self.desktop
+        self.start(self.file("a.fcs", [(500, 500)]))
+        self.wait_for_plot()
+        desktop.key("ctrl+h")
+        desktop.until(lambda: self.count_black((280, 0, 600, 300)) > 40000, "a histogram")
+        autosave = os.path.join(self.folder.name, "autosave.tessarin")
+        desktop.until(lambda: os.path.exists(autosave), "the autosave")
+        with open("/proc/%d/statm" % self.program.pid) as sizes:
+            used = int(sizes.read().split()[0]) * resource.getpagesize()
+        if used > 1 << 38:
+            self.skipTest("a sanitizer has taken all addresses")
+        resource.prlimit(self.program.pid, resource.RLIMIT_AS, (used + (8 << 20), -1))
+        desktop.key("ctrl+d")
+        desktop.wait_for_window("^Tessarin$")
+        desktop.key("Return")
+        self.assertEqual(self.program.wait(timeout=20), 1)
+        self.assertIn(b"tessarin: there is not enough memory", self.program.stderr.read())
+        self.assertTrue(os.path.exists(autosave))
 
     def test_a_tool_runs_from_the_menu_and_stops(self):
         report = os.path.join(self.folder.name, "report.txt")

@@ -87,6 +87,14 @@ bool EdellinenTiedosto(PaaIkkuna& main, int16_t window) {
     return Finish(main, opened);
 }
 
+KansioPaikka AnnaKansioPaikka(int16_t window) {
+    if (!HasFile(window)) {
+        return {};
+    }
+    const Place place(window);
+    return {place.number, static_cast<std::ptrdiff_t>(place.files.size())};
+}
+
 void FileNextFile(PaaIkkuna& main) {
     StepSelected(
         main, SeuraavaTiedosto,

@@ -1,6 +1,7 @@
 // Stepping windows through the data files of their folders.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -18,6 +19,15 @@ bool EnsimmainenTiedostoHakemisto(PaaIkkuna& main, int16_t window, const std::st
 bool SeuraavaTiedosto(PaaIkkuna& main, int16_t window);
 /// `EdellinenTiedosto` means previous file: the same, backwards.
 bool EdellinenTiedosto(PaaIkkuna& main, int16_t window);
+
+/// `KansioPaikka` means place in a folder: where a window's file stands among the data files of
+/// its folder, counted from 1; 0 when it is not there.
+struct KansioPaikka {
+    std::ptrdiff_t number = 0;
+    std::ptrdiff_t files = 0;  ///< how many there are
+};
+/// All 0 for a window without a file.
+KansioPaikka AnnaKansioPaikka(int16_t window);
 
 /// "Next file" and "Previous file": every selected window steps from its own file in its own
 /// folder.

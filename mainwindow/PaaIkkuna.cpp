@@ -103,7 +103,7 @@ void PaaIkkuna::HuomautaTiedostosta(int16_t slot) {
 void PaaIkkuna::MuistutaTiedostosta(int16_t slot) {
     const std::string oddity = OddityOf(slot);
     if (remarkIsOfFile_ || !oddity.empty()) {
-        platform_.mainForm.SetStatus(oddity);
+        NaytaHuomautus(oddity);
         remarkIsOfFile_ = true;
     }
 }
@@ -111,19 +111,30 @@ void PaaIkkuna::MuistutaTiedostosta(int16_t slot) {
 void PaaIkkuna::Huomauta(const std::string& remark) {
     remarkIsOfFile_ = false;
     tellsOfDrawing_ = false;
-    platform_.mainForm.SetStatus(remark);
+    NaytaHuomautus(remark);
     if (onRemark && !remark.empty()) {
         onRemark(remark);
     }
 }
 
+void PaaIkkuna::NaytaHuomautus(const std::string& remark) {
+    remark_ = remark;
+    const bool both = !progress_.empty() && !remark_.empty();
+    platform_.mainForm.SetStatus(progress_ + (both ? "; " : "") + remark_);
+}
+
+void PaaIkkuna::Edistyma(const std::string& progress) {
+    progress_ = progress;
+    NaytaHuomautus(remark_);
+}
+
 void PaaIkkuna::PiirtoMuuttui() {
     populations_.PaivitaNapit();
     if (UusiRegionPaalla) {
-        platform_.mainForm.SetStatus(
+        NaytaHuomautus(
             "Click the corners; right click closes; Esc cancels. In a histogram drag a marker.");
     } else if (tellsOfDrawing_) {
-        platform_.mainForm.SetStatus("");
+        NaytaHuomautus("");
     }
     tellsOfDrawing_ = UusiRegionPaalla;
 }

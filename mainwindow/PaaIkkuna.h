@@ -48,6 +48,9 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void AvaaTiedosto(const std::string& path);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
     void Huomauta(const std::string& remark) override;
+    /// `Edistyma` means progress: how far a long run is. It stands in the status bar in front of
+    /// any remark until it is empty again.
+    void Edistyma(const std::string& progress);
     /// Remarks what is odd about the file that was just read; clears the line when nothing is.
     void HuomautaTiedostosta(int16_t slot);
     /// `Muistuta` means remind: the active window shows that file. What is odd about it stands in
@@ -100,6 +103,8 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void FilesDropped(const std::vector<std::string>& paths) override;
 
   private:
+    /// What the status bar says from now on, besides how far a run is.
+    void NaytaHuomautus(const std::string& remark);
     std::vector<std::string> ToolNames() const;
     void RunTool(std::string_view command);
 
@@ -110,6 +115,8 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     PopulationPanel populations_;
     PopulationCommands panelCommands_;
     CopySource* kopioitava_ = nullptr;
+    std::string remark_;           // what the status bar says
+    std::string progress_;         // in front of that, while a run goes on
     bool remarkIsOfFile_ = false;  // the status bar tells of a file
     bool tellsOfDrawing_ = false;  // it tells how to draw a region
 };

@@ -8,6 +8,7 @@
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
+#include "mainwindow/FileNavigation.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 #include "tools/ToolCommands.h"
@@ -20,6 +21,9 @@ bool SkriptiKaynnissa = false;
 namespace {
 
 constexpr std::string_view kBlanks = " ";
+
+// A loop takes this long before anybody wonders how far it is.
+constexpr double kRoundsThatCount = 1000;
 
 std::string_view Trimmed(std::string_view line) {
     const auto first = line.find_first_not_of(kBlanks);
@@ -98,6 +102,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     }
     report.close();
     SkriptiKaynnissa = false;
+    main_.Edistyma("");
     DrawPutOff();
     return !aborted_;
 }
@@ -174,6 +179,29 @@ void ToolRun::ShowWindow() {
     }
 }
 
+// A run that nobody watches saves itself the listing of the folder.
+void ToolRun::KerroTiedosto(int16_t window) {
+    if (surroundings_.unseen) {
+        return;
+    }
+    const KansioPaikka place = AnnaKansioPaikka(window);
+    if (place.number > 0) {
+        file_ = "file " + std::to_string(place.number) + " of " + std::to_string(place.files) +
+                ", " + Tiedostot(Ikkunat(window).FileIndex).FileName;
+        Edisty();
+    }
+}
+
+void ToolRun::Edisty(const SkriptiSilmukka* loop) {
+    std::string where = file_;
+    if (loop != nullptr) {
+        where += where.empty() ? "" : ", ";
+        where +=
+            "round " + NumberText(loop->Laskuri) + " of at most " + NumberText(loop->Kierroksia);
+    }
+    main_.Edistyma(where.empty() ? "" : "Tool running: " + where);
+}
+
 SkriptiSilmukka& ToolRun::Silmukka() {
     if (SilmukkaSyvyys < 0) {
         throw ToolFault();
@@ -201,11 +229,18 @@ void ToolRun::Kierros(const std::string& condition) {
     if (!condition.empty() && loop.Kaynnissa) {
         loop.Kaynnissa = !LoppuuSilmukka(condition);
     }
+    const bool counts = loop.Laskuri >= kRoundsThatCount;
     if (loop.Kaynnissa) {
         ++loop.Laskuri;
         RiviNumero = loop.AlkuRivi;
+        if (std::fmod(loop.Laskuri, kRoundsThatCount) == 0) {
+            Edisty(&loop);
+        }
     } else {
         --SilmukkaSyvyys;
+        if (counts) {
+            Edisty();
+        }
     }
 }
 

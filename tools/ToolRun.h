@@ -62,6 +62,8 @@ class ToolRun {
     /// Ends the run after this line.
     void Lopeta() { SkriptiKaynnissa = false; }
     void ShowWindow();
+    /// The window has taken another file: the status bar tells how far the run is in its folder.
+    void KerroTiedosto(int16_t window);
 
     /// The loop that a file step ends: the innermost open one, or the spare one outside all.
     SkriptiSilmukka& Silmukka();
@@ -86,6 +88,9 @@ class ToolRun {
     bool IsPassedOver(const std::string& line);
     void Execute(const std::string& whole);
     void RunUnseen(const ToolLine& line);
+    /// `Edisty` means advance: says in the status bar where the run is; `loop` when its rounds are
+    /// so many that they count.
+    void Edisty(const SkriptiSilmukka* loop = nullptr);
 
     PaaIkkuna& main_;
     ToolSurroundings surroundings_;
@@ -96,6 +101,7 @@ class ToolRun {
     int32_t SilmukkaSyvyys = 0;  // loop depth
     std::array<SkriptiSilmukka, 101> Silmukat;
     ToolVariables variables_;
+    std::string file_;  // where the run is in a folder, for the status bar
     bool aborted_ = false;
 };
 

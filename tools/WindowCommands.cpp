@@ -57,7 +57,9 @@ bool HasFreeFile() {
 void LoadFile(const Call& call) {
     if (HasFreeFile()) {
         const std::string path = call.run.Polku(call.Text());
-        TiedostonLukuToimenPiteet(call.run.Main(), path, call.id, 0);
+        if (TiedostonLukuToimenPiteet(call.run.Main(), path, call.id, 0)) {
+            call.run.KerroTiedosto(call.id);
+        }
     }
 }
 
@@ -76,6 +78,11 @@ void MoveFile(const Call& call) {
             run.AsetaKansio(Tiedostot(file).Folder);
         }
         run.Silmukka().Kaynnissa = EnsimmainenTiedostoHakemisto(main, call.id, run.NykyinenKansio);
+    } else {
+        return;
+    }
+    if (run.Silmukka().Kaynnissa) {
+        run.KerroTiedosto(call.id);
     }
 }
 

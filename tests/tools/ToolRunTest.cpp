@@ -103,6 +103,43 @@ TEST_F(ToolRunTest, LoopsEndByCountConditionOrFile) {
     EXPECT_EQ(Run("w.3.file.load:b.fcs~output.write:@.w.3.filename"), "b.fcs|");
 }
 
+TEST_F(ToolRunTest, TheStatusBarTellsHowFarARunIs) {
+    FcsBuilder file("I", 16, "1,2,3,4", 2, 1);
+    file.AddInteger(1).AddInteger(1);
+    for (const char* name : {"a.fcs", "b.fcs", "c.fcs"}) {
+        folder_.Write(name, file.Bytes());
+    }
+    std::vector<std::string> said;  // each once, in their order
+    const std::function<void()> note = [&] {
+        if (said.empty() || said.back() != platform.mainForm.status) {
+            said.push_back(platform.mainForm.status);
+        }
+        platform.loop.atNextYield = note;
+    };
+    const auto run = [&](const std::string& lines) {
+        said.clear();
+        platform.loop.atNextYield = note;
+        Run(lines);
+        platform.loop.atNextYield = nullptr;
+        return said;
+    };
+    using Said = std::vector<std::string>;
+    const std::string through =
+        "create.dotplot:1~w.1.file.move:first~do:9~w.1.file.move:next~loop~w.1.file.load:b.fcs";
+    EXPECT_EQ(run(through),
+              (Said{"", "Tool running: file 1 of 3, a.fcs", "Tool running: file 2 of 3, b.fcs",
+                    "Tool running: file 3 of 3, c.fcs", "Tool running: file 2 of 3, b.fcs"}));
+    EXPECT_EQ(platform.mainForm.status, "") << "the run is over";
+    Tiedostot(Ikkunat(1).FileIndex).Oddities = "it is odd";
+    main.HuomautaTiedostosta(Ikkunat(1).FileIndex);
+    EXPECT_EQ(
+        run("do:2500~update.population:1~loop~update.population:2"),
+        (Said{"b.fcs: it is odd", "Tool running: round 1000 of at most 2500; b.fcs: it is odd",
+              "Tool running: round 2000 of at most 2500; b.fcs: it is odd", "b.fcs: it is odd"}));
+    unseen_ = true;
+    EXPECT_EQ(run(through).size(), 1U) << "nobody would see it";
+}
+
 TEST_F(ToolRunTest, EveryWayToStopSaysWhy) {
     EXPECT_EQ(Fails("version.require:1.2.1~version.require:0.9.9~version.require:1.1.5"), "");
     EXPECT_EQ(Fails("version.require:1.3.0"),

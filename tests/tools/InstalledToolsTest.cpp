@@ -42,6 +42,10 @@ class InstalledToolsTest : public ProgramTest {
     }
     bool Run(const std::string& tool) {
         AnswerToolUser user(answers_, platform.dialogs, nullptr, log_);
+        return Run(tool, user);
+    }
+    bool Run(const std::string& tool, ToolUser& user) {
+        log_.str("");
         const Tyokalu read = LueTyokalu(SourceFile("scripts/" + tool + ".tsrscript"));
         EXPECT_TRUE(read.Valid) << tool;
         const bool ended = ToolRun(main, {user}).AjaOhjelma(read.text);
@@ -61,6 +65,10 @@ class InstalledToolsTest : public ProgramTest {
         }
         std::sort(rows.begin() + 1, rows.end());
         return {rows.begin() + 1, rows.end()};
+    }
+    /// What a tool says at its end of a report in the folder.
+    std::string Says(const std::string& report) const {
+        return "Message: The report is " + folder_.Path(report) + "\n";
     }
     static void Define(int16_t slot, const std::string& type, const std::vector<float>& x,
                        const std::vector<float>& y) {
@@ -103,29 +111,97 @@ TEST_F(InstalledToolsTest, TablesOfAFolder) {
               (Row{"a.fcs", "Polygon2", "60", "60", "302"}));
     EXPECT_EQ(Row(rows[5].begin(), rows[5].begin() + 5),
               (Row{"b.fcs", "Polygon2 and Histogram5", "60", "60", "402"}));
+}
 
+// A cross in the middle is nobody's threshold: the user must have put it somewhere.
+TEST_F(InstalledToolsTest, QuadrantsNeedACross) {
+    NewDotPlot();
     ASSERT_TRUE(Run("Quadrants of a folder"));
+    EXPECT_NE(log_.str().find("no quadrant cross"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(folder_.Path("quadrants.txt")));
+
+    QuadrantOwner& cross = *IkkunaPaikassa(1)->Quadrant();
+    cross.NaytaTaiPiilotaKvadrantti("open");
+    cross.AsetaRegion("x", 4500);  // among the upper events of b.fcs and above all but those of a
+    cross.AsetaRegion("y", 10000 - 4500);
+    ASSERT_TRUE(Run("Quadrants of a folder"));
+    EXPECT_EQ(log_.str(), Says("quadrants.txt"));
     EXPECT_EQ(Report("quadrants.txt"),
               (std::vector<Row>{{"a.fcs", "0", "40", "60", "0"}, {"b.fcs", "0", "40", "60", "0"}}));
+    cross.AsetaRegion("x", 7510);  // between the second and the third fifth of the upper ones of a
+    EXPECT_TRUE(Run("Quadrants of a folder"));
+}
+
+// Three events of seven are no whole hundredths, and neither are their means.
+TEST_F(InstalledToolsTest, NumbersHaveTheDigitsOfTheTable) {
+    FcsBuilder file("I", 16, "1,2,3,4", 2, 7);
+    file.Change("$P1R=1000;$P2R=1000");
+    for (const uint32_t x : {100U, 100U, 201U, 500U, 600U, 700U, 801U}) {
+        file.AddInteger(x).AddInteger(x + 1);
+    }
+    std::filesystem::create_directory(folder_.Path("odd"));
+    folder_.Write("odd/c.fcs", file.Bytes());
+    answers_["folder"] = folder_.Path("odd/any");
+    Define(1, "Polygon", {0, 3000, 3000, 0}, {7000, 7000, 10000, 10000});
+    ASSERT_TRUE(Run("Statistics of every population"));
+    EXPECT_EQ(log_.str(), Says("odd/populations.txt"));
+    const auto rows = Report("odd/populations.txt");
+    // 3 of 7 are 42.857 percent, 401 by 3 is 133.66, the third root of 2010000 is 126.20.
+    EXPECT_EQ(rows.at(0), (Row{"c.fcs", "Polygon1", "3", "42.85", "133.66", "126.2"}));
+    const auto& shown = Grid().Row("Polygon1");
+    EXPECT_EQ(Row(shown.begin() + 1, shown.begin() + 4),
+              Row(rows[0].begin() + 2, rows[0].begin() + 5));
+
+    answers_["region"] = "1";
+    answers_["corners"] = "4";
+    ASSERT_TRUE(Run("Region follows its cloud"));
+    EXPECT_EQ(log_.str(), Says("odd/cloud.txt"));
+    EXPECT_EQ(Report("odd/cloud.txt").at(0)[4], "42.85");
+    answers_["window"] = "2";
+    answers_["marker"] = "2";
+    Choose("CreateHistogram");
+    Define(2, "Histogram", {0, 3000}, {5000});
+    ASSERT_TRUE(Run("Marker to the highest peak"));
+    EXPECT_EQ(log_.str(), Says("odd/peaks.txt"));
+    for (const std::string& number : Report("odd/peaks.txt").at(0)) {
+        const std::size_t point = number.find('.');
+        EXPECT_TRUE(point == std::string::npos || number.size() - point <= 3 || number == "c.fcs")
+            << number;
+    }
 }
 
 // A name is a number to a tool when it reads as one, and a folder may be the wrong one.
 TEST_F(InstalledToolsTest, NamesStayApartAndAnEmptyFolderIsLeftAlone) {
     std::filesystem::create_directory(folder_.Path("wells"));
-    for (const char* name : {"1.1", "1.10", "01.1", "1E5"}) {
+    const std::set<std::string> given = {"1.1", "1.10", "01.1", "1E5", "060909.005"};
+    for (const std::string& name : given) {
         std::filesystem::copy_file(folder_.Path("a.fcs"), folder_.Path("wells/") + name);
     }
     answers_["folder"] = folder_.Path("wells/any");
     ASSERT_TRUE(Run("Statistics of a folder"));
-    std::set<std::string> names;
-    for (const Row& row : Report("wells/statistics.txt")) {
-        names.insert(row[0]);
+    EXPECT_EQ(log_.str(), Says("wells/statistics.txt"));
+    Define(1, "Polygon", {0, 10000, 10000, 0}, {0, 0, 10000, 10000});
+    Populaatiot(1).Name = "007";
+    ASSERT_TRUE(Run("Statistics of every population"));
+    IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("open");
+    ASSERT_TRUE(Run("Quadrants of a folder"));
+    for (const char* report : {"statistics.txt", "populations.txt", "quadrants.txt"}) {
+        std::set<std::string> names;
+        for (const Row& row : Report(std::string("wells/") + report)) {
+            names.insert(row[0]);
+            EXPECT_TRUE(std::string_view(report) != "populations.txt" || row[1] == "007") << row[1];
+        }
+        EXPECT_EQ(names, given) << report;
+        std::filesystem::remove(folder_.Path(std::string("wells/") + report));
     }
-    EXPECT_EQ(names.size(), 4U);
-    EXPECT_TRUE(names.contains("1.1"));
-    std::filesystem::remove(folder_.Path("wells/statistics.txt"));
     ASSERT_TRUE(Run("Pictures of all windows"));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Path("wells")), {}), 8);
+    EXPECT_EQ(log_.str(), "Message: The pictures lie in " + folder_.Path("wells/") + "\n");
+    ASSERT_TRUE(Run("Text tables of a folder"));
+    EXPECT_EQ(log_.str(), "Message: The tables lie in " + folder_.Path("wells/") + "\n");
+    for (const std::string& name : given) {
+        EXPECT_TRUE(std::filesystem::exists(folder_.Path("wells/" + name + "-1.bmp"))) << name;
+        EXPECT_TRUE(std::filesystem::exists(folder_.Path("wells/" + name + ".txt"))) << name;
+    }
 
     std::filesystem::create_directory(folder_.Path("empty"));
     answers_["folder"] = folder_.Path("empty/any");
@@ -135,7 +211,6 @@ TEST_F(InstalledToolsTest, NamesStayApartAndAnEmptyFolderIsLeftAlone) {
          {"Statistics of a folder", "Statistics of every population", "Quadrants of a folder",
           "Text tables of a folder", "Pictures of all windows", "Marker to the highest peak",
           "Region follows its cloud"}) {
-        log_.str("");
         EXPECT_TRUE(Run(tool)) << tool;
         EXPECT_EQ(log_.str(), "Message: There is no data file in that folder.\n") << tool;
     }
@@ -186,15 +261,28 @@ TEST_F(InstalledToolsTest, PicturesTablesAndAReport) {
     for (const char* picture : {"a.fcs-1.bmp", "a.fcs-2.bmp", "b.fcs-1.bmp", "b.fcs-2.bmp"}) {
         EXPECT_TRUE(std::filesystem::exists(folder_.Path(picture))) << picture;
     }
-    answers_["who"] = "Me";
-    answers_["what"] = "Test: one";
-    answers_["file"] = folder_.Path("report.txt");
-    ASSERT_TRUE(Run("Report with questions"));
-    EXPECT_NE(log_.str().find("The report is written."), std::string::npos);
+    Tiedostot(Ikkunat(1).FileIndex).Otsikko.SampleId = "0012";
+    platform.dialogs.texts = {"Me", "Test: one", folder_.Path("report.txt")};
+    DialogToolUser screen(platform.dialogs);
+    ASSERT_TRUE(Run("Report with questions", screen));
+    for (const auto& asked : platform.dialogs.questions) {
+        EXPECT_EQ(asked.text.find("[enter]"), std::string::npos) << asked.text;
+    }
+    EXPECT_EQ(platform.dialogs.messages.back().text, "The report is " + folder_.Path("report.txt"));
     const auto report = Report("report.txt");
-    EXPECT_NE(std::find(report.begin(), report.end(), Row{"By", "Me"}), report.end());
-    answers_["ready"] = "cancel";
-    EXPECT_FALSE(Run("Report with questions"));
+    for (const Row& row : {Row{"By", "Me"}, {"File", "b.fcs"}, {"Sample", "0012"}}) {
+        EXPECT_NE(std::find(report.begin(), report.end(), row), report.end()) << row[0];
+    }
+    platform.dialogs.answers = {false};
+    platform.dialogs.texts = {"Me", "Test: two", folder_.Path("report.txt")};
+    EXPECT_FALSE(Run("Report with questions", screen));
+    VapautaIkkuna(1);
+    EXPECT_TRUE(Run("Report with questions", screen));
+    EXPECT_EQ(platform.dialogs.messages.back().text, "There is no window 1.");
+    NewDotPlot();
+    Ikkunat(1).FileIndex = 0;
+    EXPECT_TRUE(Run("Report with questions", screen));
+    EXPECT_EQ(platform.dialogs.messages.back().text, "Window 1 shows no file.");
 
     ASSERT_TRUE(Run("Text tables of a folder"));
     const auto table = Report("b.fcs.txt");

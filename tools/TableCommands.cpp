@@ -27,7 +27,10 @@ struct PopulationCommand {
 void SetColor(const PopulationCall& call, uint8_t& part) {
     constexpr double kMost = 255;
     const double value = Rounded(NumberOf(call.line.value));
-    part = value >= 0 && value <= kMost ? static_cast<uint8_t>(value) : throw ToolFault();
+    if (value < 0 || value > kMost) {
+        throw ToolFault{NumberText(value) + " is not from 0 to 255"};
+    }
+    part = static_cast<uint8_t>(value);
 }
 
 void Redraw(ToolRun& run) {
@@ -111,10 +114,7 @@ struct FileCall {
     Tiedosto& file;
 
     int16_t Channel(std::size_t n) const { return SlotOf(line.Word(n), file.ChannelCount); }
-    int32_t Event(std::size_t n) const {
-        const double event = Rounded(NumberOf(line.Word(n)));
-        return event >= 1 && event <= file.EventCount ? ToInt32(event) : throw ToolFault();
-    }
+    int32_t Event(std::size_t n) const { return EventOf(line.Word(n), file.EventCount); }
 };
 
 struct FileCommand {
@@ -171,7 +171,7 @@ bool SuoritaTiedostokomento(ToolRun& run, const ToolLine& line) {
     if (command != nullptr) {
         Tiedosto& file = Tiedostot(SlotOf(line.Word(1), MaxFiles));
         if (!file.Valid) {
-            throw ToolFault();
+            throw ToolFault{"There is no file " + line.Word(1)};
         }
         command->run({run, line, file});
     }

@@ -12,6 +12,7 @@
 #include "mainwindow/WindowRegistry.h"
 #include "populations/Definitions.h"
 #include "tools/ToolRun.h"
+#include "tools/ToolWindow.h"
 
 namespace tessarin {
 namespace {
@@ -29,7 +30,7 @@ void RequireVersion(ToolRun& run, const ToolLine& line) {
     const auto pieces = Split(line.value.Text(), '.');
     for (std::size_t i = 0; i < ProgramVersion.size(); ++i) {
         if (i >= pieces.size()) {
-            throw ToolFault();
+            throw ToolFault{"A version has three numbers"};
         }
         const double wanted = NumberOf(pieces[i]);
         if (wanted != ProgramVersion[i]) {
@@ -47,8 +48,7 @@ void UpdateWindow(ToolRun& run, const ToolLine& line) {
         run.Main().PiirraKaikki();
         return;
     }
-    const auto window = IkkunaPaikassa(static_cast<int16_t>(SlotOf(line.value.Text(), MaxWindows)));
-    window != nullptr ? window->Piirra() : throw ToolFault();
+    ToolWindow(SlotOf(line.value.Text(), MaxWindows))->Piirra();
 }
 
 void UpdatePopulation(ToolRun& /*run*/, const ToolLine& line) {
@@ -62,7 +62,7 @@ void UpdatePopulation(ToolRun& /*run*/, const ToolLine& line) {
 
 void SetFastDrawLimit(ToolRun& /*run*/, const ToolLine& line) {
     const double limit = Rounded(NumberOf(line.value));
-    FastDrawLimit = limit >= 1 ? ToInt32(limit) : throw ToolFault();
+    FastDrawLimit = limit >= 1 ? ToInt32(limit) : throw ToolFault{"The limit is at least 1"};
 }
 
 void Create(ToolRun& run, const ToolLine& line) {
@@ -84,17 +84,17 @@ void SetReport(ToolRun& run, const ToolLine& line) {
     run.report = std::ofstream(run.Polku(line.value.Text()), std::ios::binary | std::ios::app);
     run.reportSet = true;
     if (!run.report) {
-        throw ToolFault();
+        throw ToolFault{"The report could not be opened"};
     }
 }
 
 void WriteReport(ToolRun& run, const ToolLine& line) {
     if (!run.reportSet) {
-        throw ToolFault();
+        throw ToolFault{"No report is open"};
     }
     run.report << KorvaaTeksti(line.value.Text(), "[tab]", "\t") << "\r\n";
     if (!run.report) {
-        throw ToolFault();
+        throw ToolFault{"The report could not be written"};
     }
 }
 

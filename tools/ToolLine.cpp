@@ -9,7 +9,7 @@ namespace tessarin {
 ToolLine::ToolLine(std::string_view line) {
     const auto pieces = Split(line, ':');
     if (pieces[0].empty()) {
-        throw ToolFault();  // no word 0
+        throw ToolFault{"The line has no first word"};
     }
     for (const std::string_view word : Split(pieces[0], '.')) {
         words.emplace_back(word);
@@ -22,7 +22,7 @@ ToolLine::ToolLine(std::string_view line) {
 }
 
 const std::string& ToolLine::Word(std::size_t n) const {
-    return n < words.size() ? words[n] : throw ToolFault();
+    return n < words.size() ? words[n] : throw ToolFault{kWordMissing};
 }
 
 ToolPattern::ToolPattern(std::string_view form) {

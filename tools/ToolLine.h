@@ -10,6 +10,9 @@
 
 namespace tessarin {
 
+/// Why a line or query is a fault that ends too early.
+inline constexpr const char* kWordMissing = "A word is missing";
+
 /// A path of words with full stops between them, and perhaps a colon and a value behind it.
 struct ToolLine {
     /// Cuts a trimmed line. The value may hold one colon; what stands behind a third is lost.
@@ -52,7 +55,7 @@ const Row* EtsiMuoto(std::span<const Row> rows, std::span<const std::string> wor
         }
         tooShort = tooShort || fit == ToolPattern::Fit::kTooShort;
     }
-    return tooShort ? throw ToolFault() : nullptr;
+    return tooShort ? throw ToolFault{kWordMissing} : nullptr;
 }
 
 }  // namespace tessarin

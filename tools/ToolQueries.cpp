@@ -12,6 +12,7 @@
 #include "mainwindow/WindowList.h"
 #include "tools/ToolLine.h"
 #include "tools/ToolRun.h"
+#include "tools/ToolWindow.h"
 
 namespace tessarin {
 namespace {
@@ -22,19 +23,20 @@ struct Question {
     const std::vector<std::string>& words;
 
     const std::string& Word(std::size_t n) const {
-        return n < words.size() ? words[n] : throw ToolFault();
+        return n < words.size() ? words[n] : throw ToolFault{kWordMissing};
     }
     int16_t Id() const { return SlotOf(Word(2), MaxWindows); }
-    std::shared_ptr<AnalysisWindow> Window() const {
-        auto window = IkkunaPaikassa(Id());
-        return window != nullptr ? window : throw ToolFault();
-    }
+    std::shared_ptr<AnalysisWindow> Window() const { return ToolWindow(Id()); }
     const Tiedosto& WindowFile() const {
         Window();
         return File(Ikkunat(Id()).FileIndex);
     }
     static const Tiedosto& File(int slot) {
-        return Tiedostot.Holds(slot) && Tiedostot(slot).Valid ? Tiedostot(slot) : throw ToolFault();
+        if (!Tiedostot.Holds(slot)) {
+            throw ToolFault{"The window has no file"};
+        }
+        return Tiedostot(slot).Valid ? Tiedostot(slot)
+                                     : throw ToolFault{"There is no file " + std::to_string(slot)};
     }
     const Tiedosto& File() const { return File(SlotOf(Word(2), MaxFiles)); }
     const Populaatio& Population() const { return Populaatiot(SlotOf(Word(2), kPopulationSlots)); }
@@ -48,12 +50,6 @@ struct Query {
     ToolPattern form;
     ToolValue (*answer)(const Question& q);
 };
-
-// A role of a window; a fault for a kind that lacks it.
-template <class Role>
-Role& Must(Role* role) {
-    return role != nullptr ? *role : throw ToolFault();
-}
 
 ToolValue Number(double number) {
     return ToolValue::Of(number);
@@ -74,11 +70,7 @@ double Statistic(const Question& q, const std::string& area, const std::string& 
 
 ToolValue Quadrant(const Question& q) {
     constexpr double kHundredths = 100;
-    const std::string& area = q.Word(4);
-    if (area != "ul" && area != "ur" && area != "ll" && area != "lr") {
-        throw ToolFault();
-    }
-    return Number(Int(kHundredths * Statistic(q, area, q.Word(5))) / kHundredths);
+    return Number(Int(kHundredths * Statistic(q, q.Word(4), q.Word(5))) / kHundredths);
 }
 
 ToolValue QuadrantPlace(const Question& q, std::string_view axis) {
@@ -122,12 +114,9 @@ ToolValue Corner(const Question& q, bool y) {
 
 ToolValue Cell(const Question& q) {
     const Tiedosto& file = q.File();
-    const double event = Rounded(NumberOf(q.Word(4)));
-    if (event < 1 || event > file.EventCount) {
-        throw ToolFault();
-    }
+    const int32_t event = EventOf(q.Word(4), file.EventCount);
     const int16_t channel = SlotOf(q.Word(5), file.ChannelCount);
-    return ToolValue::Of(static_cast<float>(file.Data(ToInt32(event), channel)));
+    return ToolValue::Of(static_cast<float>(file.Data(event, channel)));
 }
 
 ToolValue SecondsSinceMidnight(const Question& /*q*/) {
@@ -169,7 +158,7 @@ const std::vector<Query>& WindowQueries() {
         {ToolPattern("@.w|window.N.quadrant.position.y"),
          [](const Question& q) { return QuadrantPlace(q, "y"); }},
         {ToolPattern("@.w|window.N.quadrant.exists"), HasQuadrant},
-        {ToolPattern("@.w|window.N.quadrant.Q.S"), Quadrant},
+        {ToolPattern("@.w|window.N.quadrant.ul|ur|ll|lr.S"), Quadrant},
         {ToolPattern("@.w|window.N.histogram.highest.position.P"),
          [](const Question& q) { return HighestBin(q, "paikka"); }},
         {ToolPattern("@.w|window.N.histogram.highest.height.P"),
@@ -242,8 +231,11 @@ std::optional<ToolValue> Kysy(ToolRun& run, const std::string& query) {
     for (const std::string_view word : Split(query, '.')) {
         words.emplace_back(word);
     }
+    if (words.size() == 1) {
+        return std::nullopt;
+    }
     words[0] = "@";  // which is all that the first word carries
-    const bool window = words.size() > 1 && (words[1] == "w" || words[1] == "window");
+    const bool window = words[1] == "w" || words[1] == "window";
     const std::vector<Query>& queries = window ? WindowQueries() : TableQueries();
     const Query* found = EtsiMuoto(std::span<const Query>(queries), words);
     return found == nullptr ? std::nullopt : std::optional(found->answer({run, words}));

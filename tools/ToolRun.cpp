@@ -22,6 +22,8 @@ namespace {
 
 constexpr std::string_view kBlanks = " ";
 
+constexpr const char* kFatal = "Fatal error";
+
 // A loop takes this long before anybody wonders how far it is.
 constexpr double kRoundsThatCount = 1000;
 
@@ -84,17 +86,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     }
     const auto count = static_cast<int32_t>(lines_.size());
     for (RiviNumero = 0; SkriptiKaynnissa && !Closing && RiviNumero < count; ++RiviNumero) {
-        try {
-            RunLine();
-        } catch (const std::bad_alloc&) {
-            Keskeyta("There is not enough memory for line " + std::to_string(RiviNumero + 1) +
-                         ". Aborting.",
-                     "Fatal error");
-        } catch (const ToolFault&) {
-            Keskeyta("There is an error in the code on line " + std::to_string(RiviNumero + 1) +
-                         ". Aborting.",
-                     "Fatal error");
-        }
+        TryLine();
         if (surroundings_.showVariables) {
             surroundings_.showVariables(variables_.Luettelo());
         }
@@ -105,6 +97,21 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     main_.Edistyma("");
     DrawPutOff();
     return !aborted_;
+}
+
+void ToolRun::TryLine() {
+    const std::string number = std::to_string(RiviNumero + 1);
+    try {
+        RunLine();
+    } catch (const std::bad_alloc&) {
+        Keskeyta("There is not enough memory for line " + number + ". Aborting.", kFatal);
+    } catch (const ToolFault& fault) {
+        constexpr int kShown = 80;
+        const std::string& line = lines_[static_cast<std::size_t>(RiviNumero)];
+        Keskeyta("There is an error in the code on line " + number + ". Aborting.\n" +
+                     fault.reason + (line.empty() ? "." : ": " + Shortened(line, kShown)),
+                 kFatal);
+    }
 }
 
 void ToolRun::RunLine() {
@@ -204,7 +211,7 @@ void ToolRun::Edisty(const SkriptiSilmukka* loop) {
 
 SkriptiSilmukka& ToolRun::Silmukka() {
     if (SilmukkaSyvyys < 0) {
-        throw ToolFault();
+        throw ToolFault{"No loop is open"};
     }
     return Silmukat[static_cast<std::size_t>(SilmukkaSyvyys)];
 }
@@ -215,7 +222,7 @@ void ToolRun::Aloita(double rounds) {
         return;
     }
     if (SilmukkaSyvyys + 1 >= static_cast<int32_t>(Silmukat.size())) {
-        throw ToolFault();
+        throw ToolFault{"Loops stand at most 100 deep in each other"};
     }
     ++SilmukkaSyvyys;
     Silmukka() = {rounds, 1, RiviNumero, true};

@@ -85,6 +85,8 @@ class ToolRun {
 
   private:
     void RunLine();
+    /// Runs the line where the run is; what goes wrong in it ends the run with a word to the user.
+    void TryLine();
     bool IsPassedOver(const std::string& line);
     void Execute(const std::string& whole);
     void RunUnseen(const ToolLine& line);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/Numbers.h"
+#include "core/Text.h"
 
 namespace tessarin {
 namespace {
@@ -40,6 +41,11 @@ std::size_t NumberLength(std::string_view text) {
     return at;
 }
 
+std::string NoNumber(std::string_view text) {
+    constexpr int kShown = 40;
+    return "'" + Shortened(text, kShown) + "' is no number";
+}
+
 }  // namespace
 
 ToolValue ToolValue::Of(double number) {
@@ -60,12 +66,12 @@ std::optional<double> ToolValue::Number() const {
 
 double NumberOf(std::string_view text) {
     const auto number = ParseNumber(text);
-    return number ? *number : throw ToolFault();
+    return number ? *number : throw ToolFault{NoNumber(text)};
 }
 
 double NumberOf(const ToolValue& value) {
     const auto number = value.Number();
-    return number ? *number : throw ToolFault();
+    return number ? *number : throw ToolFault{NoNumber(value.Text())};
 }
 
 double NumberInFront(std::string_view text) {
@@ -74,8 +80,15 @@ double NumberInFront(std::string_view text) {
 }
 
 int16_t SlotOf(std::string_view word, int most) {
-    const double slot = Rounded(NumberOf(word));
-    return slot >= 1 && slot <= most ? static_cast<int16_t>(slot) : throw ToolFault();
+    return static_cast<int16_t>(EventOf(word, most));
+}
+
+int32_t EventOf(std::string_view word, int32_t most) {
+    const double number = Rounded(NumberOf(word));
+    if (number >= 1 && number <= most) {
+        return ToInt32(number);
+    }
+    throw ToolFault{std::string(word) + " is not from 1 to " + std::to_string(most)};
 }
 
 }  // namespace tessarin

@@ -9,7 +9,9 @@ namespace tessarin {
 
 /// What keeps a line of a tool from being carried out. Thrown while the line runs and caught at
 /// its end, where the run stops.
-struct ToolFault {};
+struct ToolFault {
+    std::string reason;  ///< a sentence for the user, without its full stop
+};
 
 /// The value behind a colon. A number of single precision keeps its own, shorter text.
 class ToolValue {
@@ -40,5 +42,7 @@ double NumberOf(const ToolValue& value);
 
 /// A word as a number of a table, rounded; a fault when it is none or not from 1 to `most`.
 int16_t SlotOf(std::string_view word, int most);
+/// The same for the number of an event.
+int32_t EventOf(std::string_view word, int32_t most);
 
 }  // namespace tessarin

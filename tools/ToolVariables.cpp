@@ -58,7 +58,7 @@ void ToolVariables::Sijoita(std::string& value) const {
             variable->Numeerinen ? NumberText(NumberOf(variable->Arvo)) : variable->Arvo;
         written += value.size() + Count(value, variable->Nimi) * text.size() + kRoundBytes;
         if (written > kMostBytes) {
-            throw ToolFault();
+            throw ToolFault{"A value that holds its own name has no end"};
         }
         value = KorvaaTeksti(value, variable->Nimi, text);
     }

@@ -22,6 +22,27 @@ void Set(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
     variable.Arvo = number ? NumberText(*number) : value.Text();
 }
 
+const char* WhyNot(ExpressionFault fault) {
+    switch (fault) {
+        case ExpressionFault::UnknownWord:
+            return "The expression holds a word that is not known; a text stands in quotes";
+        case ExpressionFault::WrongType:
+            return "The expression holds a text where a number is needed";
+        case ExpressionFault::Overflow:
+            return "The expression holds a number that is too large";
+        case ExpressionFault::DivisionByZero:
+            return "The expression divides by zero";
+        case ExpressionFault::WrongArgument:
+            return "The expression calls a function with what it does not take";
+        case ExpressionFault::NullValue:
+            return "The expression has no value";
+        case ExpressionFault::TooLarge:
+            return "The expression is too long";
+        default:
+            return "That does not read as an expression";
+    }
+}
+
 // A comma separates arguments. Where that makes no sense it is a decimal comma, and then the
 // result has one too.
 void Calc(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value) {
@@ -31,7 +52,7 @@ void Calc(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value) {
         result.text = KorvaaTeksti(result.text, ".", ",");
     }
     if (result.fault != ExpressionFault::None) {
-        throw ToolFault();
+        throw ToolFault{WhyNot(result.fault)};
     }
     variable.Arvo = std::move(result.text);
 }
@@ -55,7 +76,7 @@ void PadWithZeros(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& 
     const double width = Rounded(NumberOf(value));
     const double zeros = width - Digits(NumberOf(variable.Arvo));
     if (zeros > kWidest) {
-        throw ToolFault();
+        throw ToolFault{"That many zeros are too many"};
     }
     if (zeros > 0) {
         variable.Arvo.insert(0, static_cast<std::size_t>(zeros), '0');

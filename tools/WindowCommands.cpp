@@ -12,6 +12,7 @@
 #include "mainwindow/WindowList.h"
 #include "tools/ToolCommands.h"
 #include "tools/ToolRun.h"
+#include "tools/ToolWindow.h"
 
 namespace tessarin {
 namespace {
@@ -31,22 +32,19 @@ struct Call {
     Twips Size() const { return {ToInt32(Rounded(Number()))}; }
 };
 
-void Must(bool done) {
+void Must(bool done, const char* otherwise) {
     if (!done) {
-        throw ToolFault();
+        throw ToolFault{otherwise};
     }
-}
-
-// A kind of window that lacks a role cannot carry the line out.
-template <class Role>
-Role& Must(Role* role) {
-    Must(role != nullptr);
-    return *role;
 }
 
 void SaveImage(const Call& call) {
     call.window.PiirraLykatty();
-    Must(TalletaKuva(call.window.Lomake().Surface().Image(), call.run.Polku(call.Text())).empty());
+    const std::string failure =
+        TalletaKuva(call.window.Lomake().Surface().Image(), call.run.Polku(call.Text()));
+    if (!failure.empty()) {
+        throw ToolFault{failure};
+    }
 }
 
 bool HasFreeFile() {
@@ -74,7 +72,7 @@ void MoveFile(const Call& call) {
     } else if (call.Text() == "first") {
         const int16_t file = Ikkunat(call.id).FileIndex;
         if (run.NykyinenKansio.empty()) {
-            Must(Tiedostot.Holds(file));
+            Must(Tiedostot.Holds(file), "No folder was set, and the window has no file");
             run.AsetaKansio(Tiedostot(file).Folder);
         }
         run.Silmukka().Kaynnissa = EnsimmainenTiedostoHakemisto(main, call.id, run.NykyinenKansio);
@@ -94,12 +92,14 @@ void Choose(const Call& call, std::string_view on, std::string_view off, Operati
     }
 }
 
+constexpr const char* kNoCurve = "There is no such curve, or it cannot take that value";
+
 void MoveCurve(const Call& call, std::string_view what) {
-    Must(Must(call.window.Curves()).SiirraKayraa(what, call.Slot(3), call.Text()));
+    Must(Must(call.window.Curves()).SiirraKayraa(what, call.Slot(3), call.Text()), kNoCurve);
 }
 
 void MakeCurve(const Call& call, std::string_view what) {
-    Must(Must(call.window.Curves()).LuoTaiPoista(what, call.Slot(3), call.Text()));
+    Must(Must(call.window.Curves()).LuoTaiPoista(what, call.Slot(3), call.Text()), kNoCurve);
 }
 
 void SetChannel(const Call& call, std::string_view axis) {
@@ -173,7 +173,9 @@ void AddOtherCommands(std::vector<WindowCommand>& to) {
           }},
          {ToolPattern("w|window.N.overlay.K.histogram"),
           [](const Call& c) {
-              Must(Must(c.window.Sources()).AsetaHistogram(c.Slot(3), SlotOf(c.Text(), INT16_MAX)));
+              const int16_t source = SlotOf(c.Text(), INT16_MAX);
+              Must(Must(c.window.Sources()).AsetaHistogram(c.Slot(3), source),
+                   "There is no such histogram, or no such place for it");
           }},
          {ToolPattern("w|window.N.curve.C.height"), [](const Call& c) { MoveCurve(c, "korkeus"); }},
          {ToolPattern("w|window.N.curve.C.name"), [](const Call& c) { MoveCurve(c, "nimi"); }},
@@ -211,8 +213,7 @@ bool SuoritaIkkunakomento(ToolRun& run, const ToolLine& line) {
         EtsiMuoto(std::span<const WindowCommand>(Commands()), line.words);
     if (command != nullptr) {
         const int16_t id = SlotOf(line.Word(1), MaxWindows);
-        const auto window = IkkunaPaikassa(id);  // lives until the line is done
-        Must(window != nullptr);
+        const auto window = ToolWindow(id);  // lives until the line is done
         command->run({run, line, id, *window});
     }
     return true;

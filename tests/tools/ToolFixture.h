@@ -37,11 +37,19 @@ class ToolRunTest : public ProgramTest {
         std::ifstream in(path, std::ios::binary);
         return KorvaaTeksti(std::string{std::istreambuf_iterator<char>(in), {}}, "\r\n", "|");
     }
-    /// The message that the run stopped with; empty when it did not.
+    /// The message that the run stopped with, without the reason of a fault; empty when it did not.
     std::string Fails(const std::string& lines) {
         Run(lines);
         EXPECT_EQ(ended_, platform.dialogs.messages.empty()) << lines;
-        return ended_ ? "" : platform.dialogs.messages.back().text;
+        return ended_ ? "" : std::string(Split(platform.dialogs.messages.back().text, '\n')[0]);
+    }
+    /// Why the run stopped, as the user reads it behind the first line of the one message.
+    std::string Reason(const std::string& lines) {
+        Run(lines);
+        EXPECT_EQ(platform.dialogs.messages.size(), 1U) << lines;
+        const std::string text = ended_ ? "" : platform.dialogs.messages.back().text;
+        const std::size_t end = text.find('\n');
+        return end == std::string::npos ? text : text.substr(end + 1);
     }
     static std::string Fault(int line) {
         return "There is an error in the code on line " + std::to_string(line + 2) + ". Aborting.";

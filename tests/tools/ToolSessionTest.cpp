@@ -86,8 +86,13 @@ TEST_F(ToolRunTest, QueriesReadTheSession) {
          {"@.w.9.filename", "@.w.51.exists", "@.w.x.type", "@.w.1", "@.f.2.name", "@.f.21.exists",
           "@.f.1.cell.5.1.value", "@.f.1.parameter.3.name", "@.p.33.name", "@.p.0.exists",
           "@.p.1.position.51.x", "@.w.2.quadrant.position.x", "@.w.1.histogram.height.5",
-          "@.w.1.modeller.height.5", "@.w.1.quadrant.ul", "@"}) {
+          "@.w.1.modeller.height.5", "@.w.1.quadrant.ul"}) {
         EXPECT_EQ(Fails(std::string("$x.set:") + bad), Fault(1)) << bad;
+    }
+    for (const char* unknown :
+         {"@", "@home", "@.w.1.quadrant.xx.number", "@.w.1.filname", "@.p.1.colour"}) {
+        EXPECT_EQ(Run(std::string("output.write:") + unknown), std::string(unknown) + "|");
+        EXPECT_TRUE(ended_) << "no fault, and the value stays: " << unknown;
     }
 }
 
@@ -240,6 +245,29 @@ TEST_F(ToolRunTest, CommandsThatCannotBeCarriedOutAreFaults) {
                             "output.set:no/such/report"}) {
         EXPECT_EQ(Fails(bad), Fault(1)) << bad;
     }
+    struct Told {
+        const char* line;
+        const char* why;
+    };
+    for (const Told& c :
+         {Told{"w.9.zero", "There is no window 9"},
+          {"w.51.zero", "51 is not from 1 to 50"},
+          {"update.window:9", "There is no window 9"},
+          {"w.1.zero", "A window of its kind cannot do that"},
+          {"w.text.size.x:1", "'text' is no number"},
+          {"w.1.axis:3", "A word is missing"},
+          {"f.2.cell.1.1.value:3", "There is no file 2"},
+          {"p.1.color.red:256", "256 is not from 0 to 255"},
+          {"$x.set:@.f.1.cell.5.1.value", "5 is not from 1 to 4"},
+          {"$x.set:@.w.9.filename", "There is no window 9"},
+          {"$x.set:@.f.3.name", "There is no file 3"},
+          {"fastdraw.limit:0", "The limit is at least 1"},
+          {"$x.calc:1/0", "The expression divides by zero"},
+          {"$x.calc:abc", "The expression holds a word that is not known; a text stands in quotes"},
+          {":55", "The line has no first word"}}) {
+        EXPECT_EQ(Reason(c.line), std::string(c.why) + ": " + c.line);
+    }
+    EXPECT_EQ(Reason("   "), "The line has no first word.");
     EXPECT_EQ(Fails("w.1.nothing:5~w.1.statistics.visible:perhaps~w.1.quadrant.visible:no"), "");
 }
 

@@ -81,25 +81,15 @@ void Create(ToolRun& run, const ToolLine& line) {
 }
 
 void SetReport(ToolRun& run, const ToolLine& line) {
-    run.report = std::ofstream(run.Polku(line.value.Text()), std::ios::binary | std::ios::app);
-    run.reportSet = true;
-    if (!run.report) {
-        throw ToolFault{"The report could not be opened"};
-    }
+    run.report.Open(run.Polku(line.value.Text()));
 }
 
 void WriteReport(ToolRun& run, const ToolLine& line) {
-    if (!run.reportSet) {
-        throw ToolFault{"No report is open"};
-    }
-    run.report << KorvaaTeksti(line.value.Text(), "[tab]", "\t") << "\r\n";
-    if (!run.report) {
-        throw ToolFault{"The report could not be written"};
-    }
+    run.report.Write(KorvaaTeksti(line.value.Text(), "[tab]", "\t") + "\r\n");
 }
 
 void CloseReport(ToolRun& run, const ToolLine& /*line*/) {
-    run.report.close();
+    run.report.Close();
 }
 
 void PrintPage(ToolRun& run, const ToolLine& /*line*/) {

@@ -92,7 +92,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
         }
         main_.Services().loop.YieldBetween();
     }
-    report.close();
+    CloseReport();
     SkriptiKaynnissa = false;
     main_.Edistyma("");
     DrawPutOff();
@@ -111,6 +111,15 @@ void ToolRun::TryLine() {
         Keskeyta("There is an error in the code on line " + number + ". Aborting.\n" +
                      fault.reason + (line.empty() ? "." : ": " + Shortened(line, kShown)),
                  kFatal);
+    }
+}
+
+// No line is at fault when the last of the report finds no place.
+void ToolRun::CloseReport() {
+    try {
+        report.Close();
+    } catch (const ToolFault& fault) {
+        Keskeyta(fault.reason + ".", kFatal);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -12,6 +11,7 @@
 
 #include "tools/Expression.h"
 #include "tools/ToolLine.h"
+#include "tools/ToolReport.h"
 #include "tools/ToolUser.h"
 #include "tools/ToolVariables.h"
 
@@ -79,14 +79,14 @@ class ToolRun {
     std::string NykyinenKansio;  ///< current folder, ending in a separator once it is set
     bool AutoUpdate = true;      ///< whether population commands redraw at once
     bool TulostinAsetettu = false;
-    std::ofstream report;  ///< the open report; a new one takes its place
-    bool reportSet = false;
+    ToolReport report;
     ExpressionEngine laskin;  ///< `laskin` means calculator
 
   private:
     void RunLine();
     /// Runs the line where the run is; what goes wrong in it ends the run with a word to the user.
     void TryLine();
+    void CloseReport();
     bool IsPassedOver(const std::string& line);
     void Execute(const std::string& whole);
     void RunUnseen(const ToolLine& line);

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <system_error>
 
+#include "tools/ToolReach.h"
 #include "tools/ToolValue.h"
 
 namespace tessarin {
@@ -10,6 +11,9 @@ namespace tessarin {
 void ToolReport::Open(const std::string& path) {
     Close();
     path_ = path;
+    if (std::string obstacle = ReportObstacle(path); !obstacle.empty()) {
+        throw ToolFault{std::move(obstacle)};
+    }
     errno = 0;
     out_.reset(std::fopen(path.c_str(), "ab"));
     if (out_ == nullptr) {

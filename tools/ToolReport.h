@@ -14,7 +14,8 @@ namespace tessarin {
 class ToolReport {
   public:
     /// Opens the text file at that path to continue it, or makes it; closes the one before. Throws
-    /// ToolFault when one of both fails.
+    /// ToolFault when one of both fails, and for a path that is none for a report: see
+    /// `ReportObstacle`.
     void Open(const std::string& path);
     /// Throws ToolFault when no report is open, or it cannot be written.
     void Write(std::string_view text);

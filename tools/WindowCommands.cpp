@@ -11,6 +11,7 @@
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 #include "tools/ToolCommands.h"
+#include "tools/ToolReach.h"
 #include "tools/ToolRun.h"
 #include "tools/ToolWindow.h"
 
@@ -39,9 +40,12 @@ void Must(bool done, const char* otherwise) {
 }
 
 void SaveImage(const Call& call) {
-    call.window.PiirraLykatty();
-    const std::string failure =
-        TalletaKuva(call.window.Lomake().Surface().Image(), call.run.Polku(call.Text()));
+    const std::string path = call.run.Polku(call.Text());
+    std::string failure = PictureObstacle(path);
+    if (failure.empty()) {
+        call.window.PiirraLykatty();
+        failure = TalletaKuva(call.window.Lomake().Surface().Image(), path);
+    }
     if (!failure.empty()) {
         throw ToolFault{failure};
     }

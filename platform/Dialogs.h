@@ -1,6 +1,7 @@
 // Everything that asks the user something and waits for the answer.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,11 +20,21 @@ struct FileQuestion {
     std::string ending{};  ///< a name to save under that has no ending gets this one
 };
 
+/// A button that boxes carry beside their own, such as "Stop" while a tool runs.
+struct ExtraButton {
+    std::string caption{};  ///< empty for no button
+    std::function<void()> onPress{};
+};
+
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
 
-    /// Shows a message until the user presses OK.
+    /// Messages, questions and input boxes carry that button from now on; gives the one before.
+    /// Pressing it closes the box as Cancel does.
+    virtual ExtraButton SetExtraButton(ExtraButton button) = 0;
+
+    /// Shows a message until the user presses OK. Lines of any text here end in CR, LF or both.
     virtual void Message(std::string_view text, std::string_view title) = 0;
     /// True for OK or Yes.
     virtual bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) = 0;

@@ -16,10 +16,10 @@ struct Question {
 
 void AskInput(ToolRun& run, const std::string& name, const std::string& text) {
     const std::string answer = run.User().Input(name, KorvaaTeksti(text, "[enter]", "\r"));
-    if (answer.empty()) {
-        run.Keskeyta("You must give the value for each question. Aborting.");
-    } else {
+    if (!answer.empty()) {
         run.Muuttujat().Lisaa(name).Arvo = answer;
+    } else if (SkriptiKaynnissa) {  // not stopped in the box
+        run.Keskeyta("You must give the value for each question. Aborting.");
     }
 }
 

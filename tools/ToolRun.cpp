@@ -66,6 +66,20 @@ void DrawPutOff() {
     }
 }
 
+// What boxes carry beside their own buttons while it lives.
+class BoxButton {
+  public:
+    BoxButton(Dialogs& dialogs, ExtraButton button)
+        : dialogs_(dialogs), before_(dialogs.SetExtraButton(std::move(button))) {}
+    ~BoxButton() { dialogs_.SetExtraButton(std::move(before_)); }
+    BoxButton(const BoxButton&) = delete;
+    BoxButton& operator=(const BoxButton&) = delete;
+
+  private:
+    Dialogs& dialogs_;
+    ExtraButton before_;
+};
+
 // Puts pictures off while it lives, or not.
 class PuttingOff {
   public:
@@ -123,7 +137,9 @@ void ToolRun::CloseReport() {
     }
 }
 
+// A tool that shows one box after the other leaves no time for the Stop button of its window.
 void ToolRun::RunLine() {
+    const BoxButton stop(main_.Services().dialogs, {"Stop", [] { SkriptiKaynnissa = false; }});
     std::string& line = lines_[static_cast<std::size_t>(RiviNumero)];
     if (!IsPassedOver(line)) {
         line = std::string(Trimmed(line));
@@ -185,6 +201,7 @@ void ToolRun::Keskeyta(const std::string& message, const std::string& title) {
     aborted_ = true;
     SkriptiKaynnissa = false;
     if (!message.empty()) {
+        const BoxButton none(main_.Services().dialogs, {});
         User().Abort(message, title);
     }
 }

@@ -1,12 +1,14 @@
 #include "platform/qt/QtDialogs.h"
 
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
-#include <QMessageBox>
+#include <QPushButton>
+#include <utility>
 
 #include "platform/qt/Conversions.h"
 #include "platform/qt/FileFilter.h"
@@ -14,23 +16,45 @@
 namespace tessarin {
 namespace {
 
-QMessageBox::StandardButton Box(QWidget& parent, QMessageBox::Icon icon, std::string_view text,
-                                std::string_view title, QMessageBox::StandardButtons buttons) {
-    QMessageBox box(icon, AsTitle(title), ToQt(text), buttons, &parent);
-    box.setTextFormat(Qt::PlainText);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
+// A line end of any kind shows as one.
+QString Lines(std::string_view text) {
+    return ToQt(text).replace("\r\n", "\n").replace('\r', '\n');
 }
 
 }  // namespace
 
+ExtraButton QtDialogs::SetExtraButton(ExtraButton button) {
+    return std::exchange(extra_, std::move(button));
+}
+
+QMessageBox::StandardButton QtDialogs::Box(QMessageBox::Icon icon, std::string_view text,
+                                           std::string_view title,
+                                           QMessageBox::StandardButtons buttons) {
+    QMessageBox box(icon, AsTitle(title), Lines(text), buttons, &parent_);
+    box.setTextFormat(Qt::PlainText);
+    const QAbstractButton* extra = nullptr;
+    if (!extra_.caption.empty()) {
+        extra = box.addButton(ToQt(extra_.caption), QMessageBox::ActionRole);
+        if (buttons == QMessageBox::Ok) {
+            box.setEscapeButton(QMessageBox::Ok);  // which is not clear beside a second button
+        }
+    }
+    const int pressed = box.exec();
+    if (extra != nullptr && box.clickedButton() == extra) {
+        extra_.onPress();
+        return QMessageBox::NoButton;
+    }
+    return static_cast<QMessageBox::StandardButton>(pressed);
+}
+
 void QtDialogs::Message(std::string_view text, std::string_view title) {
-    Box(parent_, QMessageBox::Information, text, title, QMessageBox::Ok);
+    Box(QMessageBox::Information, text, title, QMessageBox::Ok);
 }
 
 bool QtDialogs::Ask(std::string_view text, std::string_view title, QuestionButtons buttons) {
     const bool yesNo = buttons == QuestionButtons::kYesNo;
     const auto answer =
-        Box(parent_, QMessageBox::Question, text, title,
+        Box(QMessageBox::Question, text, title,
             yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok | QMessageBox::Cancel);
     return answer == QMessageBox::Yes || answer == QMessageBox::Ok;
 }
@@ -39,12 +63,26 @@ std::string QtDialogs::Input(std::string_view prompt, std::string_view title,
                              std::string_view preset) {
     QInputDialog dialog(&parent_);
     dialog.setWindowTitle(AsTitle(title));
-    dialog.setLabelText(ToQt(prompt));
+    dialog.setLabelText(Lines(prompt));
     dialog.setTextValue(ToQt(preset));
     if (auto* label = dialog.findChild<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
     }
-    return dialog.exec() == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
+    auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    bool extra = false;
+    if (!extra_.caption.empty() && buttons != nullptr) {
+        const QPushButton* button =
+            buttons->addButton(ToQt(extra_.caption), QDialogButtonBox::ActionRole);
+        QObject::connect(button, &QPushButton::clicked, &dialog, [&dialog, &extra] {
+            extra = true;
+            dialog.reject();
+        });
+    }
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    if (extra) {
+        extra_.onPress();
+    }
+    return accepted ? FromQt(dialog.textValue()) : std::string();
 }
 
 QString QtDialogs::Start(const std::string& presetName) const {

@@ -1,17 +1,35 @@
 #include "platform/scripted/ScriptedDialogs.h"
 
+#include <utility>
+
 namespace tessarin {
 
+ExtraButton ScriptedDialogs::SetExtraButton(ExtraButton button) {
+    return std::exchange(extra_, std::move(button));
+}
+
+bool ScriptedDialogs::PressExtra() const {
+    if (!pressExtra || extra_.caption.empty()) {
+        return false;
+    }
+    extra_.onPress();
+    return true;
+}
+
 void ScriptedDialogs::Message(std::string_view text, std::string_view title) {
-    messages.push_back({std::string(text), std::string(title)});
+    messages.push_back({std::string(text), std::string(title), extra_.caption});
     if (log_ != nullptr) {
         *log_ << title << ": " << text << std::endl;
     }
+    PressExtra();
 }
 
 bool ScriptedDialogs::Ask(std::string_view text, std::string_view title,
                           QuestionButtons /*buttons*/) {
-    questions.push_back({std::string(text), std::string(title)});
+    questions.push_back({std::string(text), std::string(title), extra_.caption});
+    if (PressExtra()) {
+        return false;
+    }
     if (answers.empty()) {
         return true;
     }
@@ -22,7 +40,7 @@ bool ScriptedDialogs::Ask(std::string_view text, std::string_view title,
 
 std::string ScriptedDialogs::NextText(std::string_view text, std::string_view title,
                                       std::string_view preset) {
-    questions.push_back({std::string(text), std::string(title)});
+    questions.push_back({std::string(text), std::string(title), ""});
     lastPreset = preset;
     if (texts.empty()) {
         return "";
@@ -34,7 +52,9 @@ std::string ScriptedDialogs::NextText(std::string_view text, std::string_view ti
 
 std::string ScriptedDialogs::Input(std::string_view prompt, std::string_view title,
                                    std::string_view preset) {
-    return NextText(prompt, title, preset);
+    std::string text = NextText(prompt, title, preset);
+    questions.back().extra = extra_.caption;
+    return PressExtra() ? "" : text;
 }
 
 std::string ScriptedDialogs::OpenFile(const FileQuestion& question) {

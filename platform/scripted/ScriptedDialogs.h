@@ -17,11 +17,13 @@ class ScriptedDialogs : public Dialogs {
     struct Shown {
         std::string text;
         std::string title;
+        std::string extra{};  ///< the caption of the extra button, if there was one
     };
 
     /// With a stream each message is also written there, as "TITLE: TEXT".
     explicit ScriptedDialogs(std::ostream* log = nullptr) : log_(log) {}
 
+    ExtraButton SetExtraButton(ExtraButton button) override;
     void Message(std::string_view text, std::string_view title) override;
     /// Takes the next of `answers`; OK or Yes when there is none.
     bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) override;
@@ -33,6 +35,7 @@ class ScriptedDialogs : public Dialogs {
     /// Takes the next of `colors`; Cancel when there is none.
     std::optional<Rgb> ChooseColor(Rgb current) override;
 
+    bool pressExtra = false;  ///< each box that has an extra button has it pressed
     std::deque<bool> answers;
     std::deque<std::string> texts;
     std::deque<Rgb> colors;
@@ -43,8 +46,11 @@ class ScriptedDialogs : public Dialogs {
 
   private:
     std::string NextText(std::string_view text, std::string_view title, std::string_view preset);
+    /// True when the extra button was pressed.
+    bool PressExtra() const;
 
     std::ostream* log_;
+    ExtraButton extra_;
 };
 
 }  // namespace tessarin

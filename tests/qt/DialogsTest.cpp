@@ -58,6 +58,59 @@ TEST_F(DialogsTest, QuestionsHaveTheirButtons) {
     Asked().Message("<b>file</b>.fcs", "Load error");
 }
 
+TEST_F(DialogsTest, BoxesCarryAnExtraButton) {
+    int pressed = 0;
+    EXPECT_EQ(Asked().SetExtraButton({"Stop", [&pressed] { ++pressed; }}).caption, "");
+    const auto press = [](QMessageBox& box) {
+        const auto buttons = box.buttons();
+        const auto stop = std::find_if(buttons.begin(), buttons.end(), [](QAbstractButton* button) {
+            return button->text() == "Stop";
+        });
+        ASSERT_NE(stop, buttons.end());
+        (*stop)->click();
+    };
+    WhenUp<QMessageBox>(press);
+    Asked().Message("one", "Message");
+    EXPECT_EQ(pressed, 1);
+    WhenUp<QMessageBox>(press);
+    EXPECT_FALSE(Asked().Ask("Go on?", "", QuestionButtons::kOkCancel));
+    EXPECT_EQ(pressed, 2);
+    WhenUp<QInputDialog>([](QInputDialog& dialog) {
+        dialog.setTextValue("500");
+        for (auto* button : dialog.findChildren<QPushButton*>()) {
+            if (button->text() == "Stop") {
+                button->click();
+            }
+        }
+    });
+    EXPECT_EQ(Asked().Input("How many?", "", ""), "");
+    EXPECT_EQ(pressed, 3);
+    WhenUp<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    Asked().Message("two", "Message");
+    WhenUp<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); });
+    EXPECT_TRUE(Asked().Ask("Go on?", "", QuestionButtons::kOkCancel));
+    EXPECT_EQ(pressed, 3) << "the boxes' own buttons mean what they mean";
+    EXPECT_EQ(Asked().SetExtraButton({}).caption, "Stop");
+    WhenUp<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.buttons().size(), 1);
+        box.reject();
+    });
+    Asked().Message("three", "Message");
+}
+
+TEST_F(DialogsTest, LineEndsOfAnyKindShow) {
+    WhenUp<QInputDialog>([](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.labelText(), "one\ntwo\nthree\nfour");
+        dialog.reject();
+    });
+    Asked().Input("one\rtwo\r\nthree\nfour", "", "");
+    WhenUp<QMessageBox>([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "one\ntwo");
+        box.reject();
+    });
+    Asked().Message("one\rtwo", "Message");
+}
+
 TEST_F(DialogsTest, InputGivesTheTextOrNothing) {
     WhenUp<QInputDialog>([](QInputDialog& dialog) {
         EXPECT_EQ(dialog.labelText(), "Set the fast draw limit");

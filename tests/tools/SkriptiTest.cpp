@@ -57,6 +57,38 @@ TEST_F(SkriptiTest, StopTakesEffectAtTheNextLine) {
     EXPECT_FALSE(SkriptiKaynnissa);
 }
 
+// A tool that shows box after box cannot be stopped anywhere else.
+TEST_F(SkriptiTest, BoxesOfARunCarryStop) {
+    auto& dialogs = platform.dialogs;
+    dialogs.texts = {"12"};
+    RunFromMenu(
+        "message:one\r\nquestion.$a.input:two\r\nquestion.go.continue:three\r\n"
+        "create.dotplot:1\r\nw.1.file.load:nothing\r\ndo:0\r\n");
+    ASSERT_EQ(dialogs.messages.size(), 3U);
+    EXPECT_EQ(dialogs.messages[0].extra, "Stop");
+    EXPECT_EQ(dialogs.questions.at(0).extra, "Stop");
+    EXPECT_EQ(dialogs.questions.at(1).extra, "Stop");
+    EXPECT_EQ(dialogs.messages[1].extra, "Stop")
+        << "also what is no line's own: " << dialogs.messages[1].text;
+    EXPECT_EQ(dialogs.messages[2].extra, "") << "the run is over";
+    dialogs.Message("later", "");
+    EXPECT_EQ(dialogs.messages.back().extra, "");
+
+    dialogs.pressExtra = true;
+    for (const std::string box :
+         {"message:on", "question.$a.input:on", "question.go.continue:on"}) {
+        dialogs.messages.clear();
+        dialogs.questions.clear();
+        dialogs.texts = {"12"};
+        RunFromMenu("do:1000\r\n" + box + "\r\nloop\r\n");
+        EXPECT_EQ(dialogs.messages.size() + dialogs.questions.size(), 1U) << box;
+        EXPECT_FALSE(SkriptiKaynnissa);
+    }
+    platform.loop.atNextYield = [&] { dialogs.Message("of somebody else", ""); };
+    RunFromMenu("$a.set:1\r\n");
+    EXPECT_EQ(dialogs.messages.back().extra, "") << "between lines nothing is the run's";
+}
+
 TEST_F(SkriptiTest, TheTextBoxRunsAndShowsItsVariables) {
     window_.MuutaSkriptiKoko("iso");
     Text().text = "$total.set:5\n$twice.calc:$total*2";  // the last line has no end of its own

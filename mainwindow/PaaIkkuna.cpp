@@ -43,19 +43,23 @@ void PaaIkkuna::Kaynnista() {
     PalautaAlkutila();
     MainForm& form = platform_.mainForm;
     form.SetTitle("Tessarin v. " + std::string(ProgramVersionText));
-    form.BuildMenus(MenuTree(
-        [this](std::string_view command) {
-            return commands_.Etsi(command) != nullptr || EtsiLajiKomennolla(command) != nullptr;
-        },
-        ToolNames()));
+    RakennaValikot();
     form.Show();
     panel_.Alusta();
     populations_.Rakenna();
     populations_.PaivitaRegionLista();
-    PaivitaKomennot();
     if (companions_.views != nullptr) {
         companions_.views->TarjoaPalautusta();
     }
+}
+
+void PaaIkkuna::RakennaValikot() {
+    platform_.mainForm.BuildMenus(MenuTree(
+        [this](std::string_view command) {
+            return commands_.Etsi(command) != nullptr || EtsiLajiKomennolla(command) != nullptr;
+        },
+        ToolNames()));
+    PaivitaKomennot();
 }
 
 std::vector<std::string> PaaIkkuna::ToolNames() const {

@@ -29,6 +29,9 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// REQUIRES: window kinds are registered.
     void Kaynnista();
 
+    /// `RakennaValikot` means build the menus: anew, when the tools are others.
+    void RakennaValikot();
+
     const Platform& Services() const { return platform_; }
     const Companions& Kumppanit() const { return companions_; }
     PopulationPanel& Paneeli() { return populations_; }

@@ -69,6 +69,11 @@ class TextBox : public Control {
     /// The part that the user marked; empty when there is none.
     virtual std::string SelectedText() const = 0;
     virtual void SetFocus() = 0;
+    /// Puts the cursor on that line, counted from 1, and marks the line until the cursor leaves it
+    /// or the text changes. Lines that are not there are taken for the nearest.
+    virtual void GoToRow(int row) = 0;
+    /// The user changed the text.
+    std::function<void()> onEdit;
     /// The cursor stands on another line now, counted from 1.
     std::function<void(int row)> onRow;
 };

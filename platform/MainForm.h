@@ -66,6 +66,7 @@ class MainForm {
     virtual void SetTitle(std::string_view title) = 0;
     virtual void Show() = 0;
 
+    /// Replaces all menus; an item of the same command stays checked.
     virtual void BuildMenus(std::span<const Menu> menus) = 0;
     /// By the item's command name; unknown names are ignored.
     virtual void SetItemEnabled(std::string_view command, bool enabled) = 0;

@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QMenu>
+#include <set>
 #include <utility>
 
 #include "platform/qt/Conversions.h"
@@ -12,6 +13,12 @@ MenuBar::MenuBar(QMenuBar& bar, std::function<void(const std::string&)> chosen)
     : bar_(bar), chosen_(std::move(chosen)) {}
 
 void MenuBar::Build(std::span<const Menu> menus) {
+    std::set<std::string> checked;
+    for (const auto& [command, action] : actions_) {
+        if (action->isChecked()) {
+            checked.insert(command);
+        }
+    }
     actions_.clear();
     const QList<QMenu*> old = bar_.findChildren<QMenu*>(Qt::FindDirectChildrenOnly);
     for (QMenu* menu : old) {
@@ -25,6 +32,9 @@ void MenuBar::Build(std::span<const Menu> menus) {
         for (const MenuItem& item : menu.items) {
             AddItem(*shown, item);
         }
+    }
+    for (const std::string& command : checked) {
+        SetChecked(command, true);
     }
 }
 

@@ -18,7 +18,7 @@ class MenuBar : public QObject {
     /// `chosen` gets the name of the command.
     MenuBar(QMenuBar& bar, std::function<void(const std::string&)> chosen);
 
-    /// Replaces all menus.
+    /// Replaces all menus; an item of the same command stays checked.
     void Build(std::span<const Menu> menus);
     void SetEnabled(std::string_view command, bool enabled);
     void SetChecked(std::string_view command, bool checked);

@@ -1,5 +1,6 @@
 #include "platform/qt/QtControls.h"
 
+#include <QColor>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,6 +11,8 @@
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocumentFragment>
+#include <QTextEdit>
+#include <algorithm>
 
 #include "platform/qt/Conversions.h"
 #include "platform/qt/GridWidget.h"
@@ -21,6 +24,7 @@ namespace {
 
 constexpr int kTextLetters = 13;  // pixels
 constexpr int kTabCharacters = 4;
+constexpr QColor kMarkedLine(255, 200, 190);
 
 // Calls a receiver that may go, and the control with it, during the call.
 template <class... Told>
@@ -121,7 +125,8 @@ class QtTextBox : public QtControl<TextBox, QPlainTextEdit> {
         shown_->setReadOnly(spec.readOnly);
         shown_->setUndoRedoEnabled(!spec.readOnly);
         QObject::connect(shown_, &QPlainTextEdit::cursorPositionChanged, shown_,
-                         [this] { Tell(onRow, shown_->textCursor().blockNumber() + 1); });
+                         [this] { CursorMoved(); });
+        QObject::connect(shown_, &QPlainTextEdit::textChanged, shown_, [this] { TextChanged(); });
     }
     void SetText(std::string_view text) override;
     std::string Text() const override { return shown_ ? FromQt(shown_->toPlainText()) : ""; }
@@ -133,24 +138,68 @@ class QtTextBox : public QtControl<TextBox, QPlainTextEdit> {
             shown_->setFocus();
         }
     }
+    void GoToRow(int row) override;
+
+  private:
+    void CursorMoved();
+    void TextChanged();
+
+    bool setting_ = false;  // the program changes the text
+    int marked_ = 0;        // the line that is marked, from 1; 0 for none
 };
+
+void QtTextBox::GoToRow(int row) {
+    if (!shown_) {
+        return;
+    }
+    const int last = shown_->document()->blockCount();
+    marked_ = std::clamp(row, 1, last);
+    const QTextCursor cursor(shown_->document()->findBlockByNumber(marked_ - 1));
+    QTextEdit::ExtraSelection line;
+    line.cursor = cursor;
+    line.format.setBackground(kMarkedLine);
+    line.format.setForeground(QColor(Qt::black));
+    line.format.setProperty(QTextFormat::FullWidthSelection, true);
+    shown_->setExtraSelections({line});
+    shown_->setTextCursor(cursor);
+    shown_->ensureCursorVisible();
+}
+
+void QtTextBox::CursorMoved() {
+    const int row = shown_->textCursor().blockNumber() + 1;
+    if (row != marked_) {
+        marked_ = 0;
+        shown_->setExtraSelections({});
+    }
+    Tell(onRow, row);
+}
+
+void QtTextBox::TextChanged() {
+    marked_ = 0;
+    shown_->setExtraSelections({});
+    if (!setting_) {
+        Tell(onEdit);
+    }
+}
 
 void QtTextBox::SetText(std::string_view text) {
     if (!shown_) {
         return;
     }
+    setting_ = true;
     if (shown_->isReadOnly()) {
         // It may change at each line of a tool: who reads on stays at his place.
         QScrollBar& bar = *shown_->verticalScrollBar();
         const int place = bar.value();
         shown_->setPlainText(ToQt(text));
         bar.setValue(place);
-        return;
+    } else {
+        // Not setPlainText, after which the user could not take it back.
+        QTextCursor cursor(shown_->document());
+        cursor.select(QTextCursor::Document);
+        cursor.insertText(ToQt(text));
     }
-    // Not setPlainText, after which the user could not take it back.
-    QTextCursor cursor(shown_->document());
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(ToQt(text));
+    setting_ = false;
 }
 
 class QtTable : public QtControl<Table, GridWidget> {

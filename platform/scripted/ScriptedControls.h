@@ -65,9 +65,11 @@ class ScriptedTextBox : public ScriptedControl<TextBox> {
     std::string Text() const override { return text; }
     std::string SelectedText() const override { return selected; }
     void SetFocus() override {}
+    void GoToRow(int row) override { markedRow = row; }
 
     std::string text;
     std::string selected;
+    int markedRow = 0;
 };
 
 class ScriptedTable : public ScriptedControl<Table> {

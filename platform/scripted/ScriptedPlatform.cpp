@@ -7,8 +7,12 @@ namespace {
 
 class SilentTimer : public Timer {
   public:
+    explicit SilentTimer(bool& running) : running_(running) {}
     void SetInterval(int /*milliseconds*/) override {}
-    void SetEnabled(bool /*enabled*/) override {}
+    void SetEnabled(bool enabled) override { running_ = enabled; }
+
+  private:
+    bool& running_;
 };
 
 }  // namespace
@@ -47,7 +51,7 @@ bool ScriptedBrowser::Open(const std::string& address) {
 
 std::unique_ptr<Timer> ScriptedTimers::Make(std::function<void()> tick) {
     ticks.push_back(std::move(tick));
-    return std::make_unique<SilentTimer>();
+    return std::make_unique<SilentTimer>(running.emplace_back(false));
 }
 
 void ScriptedPrinter::PaintPicture(const Bitmap& picture, double /*x*/, double /*y*/,

@@ -62,6 +62,7 @@ class ScriptedTimers : public Timers {
     /// The timer ticks when the test calls what was given here.
     std::unique_ptr<Timer> Make(std::function<void()> tick) override;
     std::vector<std::function<void()>> ticks;
+    std::deque<bool> running;  ///< whether it would tick by itself
 };
 
 class ScriptedPrinter : public Printer {

@@ -88,6 +88,49 @@ TEST_F(ControlsTest, WhatIsTypedIsTheText) {
     EXPECT_EQ(shown->Text(), "a = 1\nb = 2");
 }
 
+TEST_F(ControlsTest, ATextBoxTellsOfTypingOnly) {
+    const auto box = Maker().MakeTextBox({"box", "Text", {5, 5, 200, 100}});
+    int edits = 0;
+    box->onEdit = [&edits] { ++edits; };
+    box->SetText("set");
+    EXPECT_EQ(edits, 0);
+    auto& typed = Find<QPlainTextEdit>("box");
+    QTest::keyClicks(&typed, "!");
+    EXPECT_EQ(edits, 1);
+    typed.undo();
+    EXPECT_EQ(edits, 2) << "taking back is typing too";
+}
+
+TEST_F(ControlsTest, ALineIsMarkedUntilTheCursorLeavesIt) {
+    const auto box = Maker().MakeTextBox({"box", "Text", {5, 5, 200, 60}});
+    int row = 0;
+    box->onRow = [&row](int now) { row = now; };
+    std::string lines = "1";
+    for (int line = 2; line <= 100; ++line) {
+        lines += "\n" + std::to_string(line);
+    }
+    box->SetText(lines);
+    auto& shown = Find<QPlainTextEdit>("box");
+    const auto marked = [&shown] {
+        const auto parts = shown.extraSelections();
+        return parts.isEmpty() ? 0 : parts[0].cursor.blockNumber() + 1;
+    };
+    box->GoToRow(70);
+    EXPECT_EQ(marked(), 70);
+    EXPECT_EQ(row, 70);
+    EXPECT_TRUE(shown.rect().contains(shown.cursorRect().center())) << "it is in sight";
+    QTest::keyClick(&shown, Qt::Key_Right);
+    EXPECT_EQ(marked(), 70);
+    QTest::keyClick(&shown, Qt::Key_Up);
+    EXPECT_EQ(marked(), 0);
+    for (const auto& [asked, there] : {std::pair{1000, 100}, {0, 1}}) {
+        box->GoToRow(asked);
+        EXPECT_EQ(marked(), there);
+    }
+    QTest::keyClicks(&shown, "x");
+    EXPECT_EQ(marked(), 0) << "the text is another one";
+}
+
 TEST_F(ControlsTest, AFieldTellsOfTypingOnly) {
     const auto field = Maker().MakeTextField({"field", "Name", {5, 5, 100, 20}});
     const auto shown = Maker().MakeTextField({"shown", "Row", {5, 30, 100, 20}, true});

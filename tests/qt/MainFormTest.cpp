@@ -72,6 +72,9 @@ TEST_F(MainFormTest, ACheckMarkIsSetByTheProgramAlone) {
     EXPECT_TRUE(Item("Bumper").isChecked());
     Item("Bumper").trigger();
     EXPECT_TRUE(Item("Bumper").isChecked());
+    BuildMenus();
+    LetEventsRun();
+    EXPECT_TRUE(Item("Bumper").isChecked()) << "as it was before";
     EXPECT_EQ(main_.Take(), (Log{"command Bumper", "command Bumper"}));
 }
 

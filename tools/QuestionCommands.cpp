@@ -77,6 +77,10 @@ const std::vector<Question>& Questions() {
 
 }  // namespace
 
+bool TunteeKysyvanKomennon(std::span<const std::string> words) {
+    return Tuntee(std::span<const Question>(Questions()), words);
+}
+
 bool SuoritaKysymys(ToolRun& run, const ToolLine& line) {
     if (line.words[0] != "question") {
         return false;

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "mainwindow/PaaIkkuna.h"
+#include "tools/ToolCheck.h"
 #include "tools/ToolRun.h"
 
 namespace tessarin {
@@ -15,7 +16,7 @@ constexpr PixelBox kExecute{8, 320, 97, 17};
 constexpr PixelBox kCursorPlace{112, 320, 97, 19};
 constexpr PixelBox kClear{216, 320, 97, 17};
 constexpr PixelBox kSize{320, 320, 97, 17};
-constexpr PixelBox kVariablesLabel{8, 344, 89, 17};
+constexpr PixelBox kVariablesLabel{8, 344, 89, 16};
 constexpr PixelBox kVariables{8, 360, 409, 129};
 constexpr int kFullWidth = 425;
 constexpr int kFullHeight = 491;
@@ -24,6 +25,9 @@ constexpr int kFullHeight = 491;
 constexpr int kSmallWidth = 120;
 constexpr int kSmallHeight = 60;
 constexpr PixelBox kSmallExecute{8, 0, 97, 17};
+
+constexpr int kRest = 700;  // milliseconds after the last key
+constexpr std::size_t kRowsTold = 3;
 
 PixelBox Grown(PixelBox box, int down, int wider, int higher) {
     return {box.left, box.top + down, box.width + wider, box.height + higher};
@@ -35,6 +39,8 @@ Skripti::Skripti(PaaIkkuna& main) : main_(main), form_(main.Services().mainForm.
     form_->SetCaption("Tool running");
     form_->Surface().SetVisible(false);
     MakeControls();
+    rest_ = main_.Services().timers.Make([this] { Tarkista(); });
+    rest_->SetInterval(kRest);
     form_->Hide();
 }
 
@@ -50,7 +56,8 @@ void Skripti::MakeControls() {
     KursorinPaikka->SetText("Row: 1");
     Teksti->onRow = [this](int row) { KursorinPaikka->SetText("Row: " + std::to_string(row)); };
     Toteuta->onClick = [this] { Toteuta_Click(); };
-    Tyhjenna->onClick = [this] { Teksti->SetText(""); };
+    Teksti->onEdit = [this] { TekstiMuuttui(); };
+    Tyhjenna->onClick = [this] { Tyhjenna_Click(); };
     MuutaKokoa->onClick = [this] { MuutaSkriptiKoko(""); };
 }
 
@@ -111,8 +118,16 @@ bool Skripti::AjaOhjelma(const std::string& text, bool NaytaMuuttujat, ToolUser&
     ToolSurroundings surroundings{user};
     surroundings.unseen = main_.Services().unseen;
     if (NaytaMuuttujat) {
+        unknown_.clear();
         surroundings.showVariables = [this](const std::string& list) {
-            MuuttujienArvot->SetText(list);
+            values_ = list;
+            NaytaArvot();
+        };
+        surroundings.showRow = [this, text](int row) {
+            if (Teksti->Text() + "\r\n" == text) {  // it may have changed meanwhile
+                Teksti->GoToRow(row);
+                Teksti->SetFocus();
+            }
         };
     }
     surroundings.showWindow = [this] { MuutaSkriptiKoko("iso"); };
@@ -146,6 +161,36 @@ void Skripti::Toteuta_Click() {
     }
     DialogToolUser user(main_.Services().dialogs);
     AjaOhjelma(Teksti->Text() + "\r\n", true, user);
+}
+
+void Skripti::Tyhjenna_Click() {
+    AsetaTeksti("");
+}
+
+void Skripti::AsetaTeksti(const std::string& text) {
+    Teksti->SetText(text);
+    Tarkista();
+}
+
+void Skripti::TekstiMuuttui() {
+    rest_->SetEnabled(true);  // from now on, not from the key before
+}
+
+// While a tool runs, only values stand there; the timer asks again.
+void Skripti::Tarkista() {
+    if (SkriptiKaynnissa) {
+        return;
+    }
+    rest_->SetEnabled(false);
+    unknown_.clear();
+    for (const std::string& row : TuntemattomatRivit(Teksti->Text() + "\n", kRowsTold)) {
+        unknown_ += row + "\n";
+    }
+    NaytaArvot();
+}
+
+void Skripti::NaytaArvot() {
+    MuuttujienArvot->SetText(unknown_ + values_);
 }
 
 void Skripti::Form_Activate() {

@@ -7,6 +7,7 @@
 
 #include "mainwindow/CopySource.h"
 #include "platform/Form.h"
+#include "platform/Services.h"
 #include "tools/ToolUser.h"
 
 namespace tessarin {
@@ -43,12 +44,22 @@ class Skripti : public CopySource, private FormEvents {
     void Form_Resize(bool /*byUser*/) override { Arrange(); }
     void Form_MouseMove() override;
     void Toteuta_Click();
+    void Tyhjenna_Click();
+    /// The user has changed the text, and rests for a moment.
+    void TekstiMuuttui();
 
     void MakeControls();
     /// Gives every control its place in the form as it is now.
     void Arrange();
     /// Gives the form a size, in pixels, with its lower left corner where it was.
     void SetOuterSize(int width, int height);
+
+    /// Puts another text into the box.
+    void AsetaTeksti(const std::string& text);
+    /// Looks for rows that the language does not know.
+    void Tarkista();
+    /// Shows what was found, and below it the values of the variables.
+    void NaytaArvot();
 
     // `NaytaMuuttujat`, show the variables, after each line.
     bool AjaOhjelma(const std::string& text, bool NaytaMuuttujat, ToolUser& user);
@@ -62,6 +73,9 @@ class Skripti : public CopySource, private FormEvents {
     std::unique_ptr<Button> MuutaKokoa;         // change the size
     std::unique_ptr<Label> label_;
     std::unique_ptr<TextBox> MuuttujienArvot;  // values of the variables
+    std::unique_ptr<Timer> rest_;              // ticks when the user has stopped typing
+    std::string unknown_;                      // rows that the language does not know
+    std::string values_;                       // of the variables, as they are shown
     bool placed_ = false;
     bool SkriptiPieni = true;  // the form is small
 };

@@ -147,6 +147,15 @@ const std::vector<FileCommand>& FileCommands() {
 
 }  // namespace
 
+bool TunteePopulaatiokomennon(std::span<const std::string> words) {
+    return Tuntee(std::span<const PopulationCommand>(ColorCommands()), words) ||
+           Tuntee(std::span<const PopulationCommand>(PlaceCommands()), words);
+}
+
+bool TunteeTiedostokomennon(std::span<const std::string> words) {
+    return Tuntee(std::span<const FileCommand>(FileCommands()), words);
+}
+
 bool SuoritaPopulaatiokomento(ToolRun& run, const ToolLine& line) {
     if (line.words[0] != "p" && line.words[0] != "population") {
         return false;

@@ -1,5 +1,6 @@
 #include "tools/ToolCommands.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -20,6 +21,7 @@ namespace {
 struct Command {
     ToolPattern form;
     void (*run)(ToolRun& run, const ToolLine& line);
+    bool meant = true;  // somebody writes it on purpose
 };
 
 std::string WithEnters(const std::string& text) {
@@ -111,7 +113,8 @@ const std::vector<Command>& Commands() {
          [](ToolRun& run, const ToolLine& line) { run.Ehto(line.value.Text() == "true"); }},
         {ToolPattern("if.false"),
          [](ToolRun& run, const ToolLine& line) { run.Ehto(line.value.Text() == "false"); }},
-        {ToolPattern("if.X"), [](ToolRun& run, const ToolLine& /*line*/) { run.Ehto(false); }},
+        {ToolPattern("if.X"), [](ToolRun& run, const ToolLine& /*line*/) { run.Ehto(false); },
+         false},
         {ToolPattern("version.require"), RequireVersion},
         {ToolPattern("do"),
          [](ToolRun& run, const ToolLine& line) { run.Aloita(Int(NumberOf(line.value))); }},
@@ -154,6 +157,15 @@ bool LoppuuSilmukka(const std::string& condition) {
     const bool greater = holds('>', [](double a, double b) { return a > b; });
     const bool less = holds('<', [](double a, double b) { return a < b; });
     return equal || greater || less;
+}
+
+bool TunteeKomennon(std::span<const std::string> words) {
+    const auto fits = [words](const Command& command) {
+        return command.meant && command.form.Fits(words) == ToolPattern::Fit::kYes;
+    };
+    return TunteeMuuttujakomennon(words) || TunteeIkkunakomennon(words) ||
+           TunteePopulaatiokomennon(words) || TunteeTiedostokomennon(words) ||
+           TunteeKysyvanKomennon(words) || std::ranges::any_of(Commands(), fits);
 }
 
 void SuoritaKomento(ToolRun& run, const ToolLine& line) {

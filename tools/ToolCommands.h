@@ -1,6 +1,7 @@
 // The commands of the tool language.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "tools/ToolLine.h"
@@ -13,6 +14,10 @@ class ToolRun;
 /// command takes does nothing. Throws ToolFault for one that cannot be carried out.
 void SuoritaKomento(ToolRun& run, const ToolLine& line);
 
+/// Whether the language has a command of those words. Those that only fail a condition, such as
+/// "if.maybe", do not count.
+bool TunteeKomennon(std::span<const std::string> words);
+
 /// Whether the condition behind `loop:` ends the loop: its two sides are equal for "=", the left
 /// one is greater for ">", or less for "<".
 bool LoppuuSilmukka(const std::string& condition);
@@ -23,5 +28,12 @@ bool SuoritaIkkunakomento(ToolRun& run, const ToolLine& line);
 bool SuoritaPopulaatiokomento(ToolRun& run, const ToolLine& line);
 bool SuoritaTiedostokomento(ToolRun& run, const ToolLine& line);
 bool SuoritaKysymys(ToolRun& run, const ToolLine& line);
+
+// Whether a family has a command of those words.
+bool TunteeMuuttujakomennon(std::span<const std::string> words);
+bool TunteeIkkunakomennon(std::span<const std::string> words);
+bool TunteePopulaatiokomennon(std::span<const std::string> words);
+bool TunteeTiedostokomennon(std::span<const std::string> words);
+bool TunteeKysyvanKomennon(std::span<const std::string> words);
 
 }  // namespace tessarin

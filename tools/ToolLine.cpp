@@ -6,6 +6,23 @@
 
 namespace tessarin {
 
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::string_view line : Split(text, '\n')) {
+        line.remove_suffix(line.ends_with('\r') ? 1 : 0);
+        lines.emplace_back(line);
+    }
+    lines.pop_back();
+    return lines;
+}
+
+std::string_view Trimmed(std::string_view line) {
+    const auto first = line.find_first_not_of(' ');
+    return first == std::string_view::npos
+               ? ""
+               : line.substr(first, line.find_last_not_of(' ') - first + 1);
+}
+
 ToolLine::ToolLine(std::string_view line) {
     const auto pieces = Split(line, ':');
     if (pieces[0].empty()) {
@@ -44,6 +61,14 @@ ToolPattern::Fit ToolPattern::Fits(std::span<const std::string> words) const {
         }
     }
     return words.size() < words_.size() ? Fit::kTooShort : Fit::kYes;
+}
+
+bool ToolPattern::MayFit(std::span<const std::string> words) const {
+    return words.size() >= words_.size() &&
+           std::equal(words_.begin(), words_.end(), words.begin(),
+                      [](const auto& choices, const std::string& word) {
+                          return word.find('$') != std::string::npos || Agrees(choices, word);
+                      });
 }
 
 }  // namespace tessarin

@@ -13,6 +13,12 @@ namespace tessarin {
 /// Why a line or query is a fault that ends too early.
 inline constexpr const char* kWordMissing = "A word is missing";
 
+/// The lines of a tool, which end in CR LF or LF; what stands behind the last line end is none.
+std::vector<std::string> LinesOf(const std::string& text);
+
+/// Without the blanks at both ends.
+std::string_view Trimmed(std::string_view line);
+
 /// A path of words with full stops between them, and perhaps a colon and a value behind it.
 struct ToolLine {
     /// Cuts a trimmed line. The value may hold one colon; what stands behind a third is lost.
@@ -36,12 +42,25 @@ class ToolPattern {
     enum class Fit { kNo, kTooShort, kYes };
     /// `kTooShort` when the words agree as far as they go. Words behind the form do not matter.
     Fit Fits(std::span<const std::string> words) const;
+    /// Whether words fit that still hold variables, which may come to stand for any.
+    bool MayFit(std::span<const std::string> words) const;
 
   private:
     static bool Agrees(std::span<const std::string_view> choices, std::string_view word);
 
     std::vector<std::vector<std::string_view>> words_;  // the choices for each; none for any
 };
+
+/// `Tuntee` means knows: whether the form of one of `rows` fits.
+template <class Row>
+bool Tuntee(std::span<const Row> rows, std::span<const std::string> words) {
+    for (const Row& row : rows) {
+        if (row.form.Fits(words) == ToolPattern::Fit::kYes) {
+            return true;
+        }
+    }
+    return false;
+}
 
 /// Finds the first of `rows` whose form fits; each has a member `form`. Null when none does; a
 /// fault when the words end too early for one.

@@ -1,5 +1,6 @@
 #include "tools/ToolQueries.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <vector>
@@ -224,20 +225,35 @@ const std::vector<Query>& TableQueries() {
     return queries;
 }
 
-}  // namespace
-
-std::optional<ToolValue> Kysy(ToolRun& run, const std::string& query) {
+std::vector<std::string> WordsOf(const std::string& query) {
     std::vector<std::string> words;
     for (const std::string_view word : Split(query, '.')) {
         words.emplace_back(word);
     }
-    if (words.size() == 1) {
-        return std::nullopt;
-    }
     words[0] = "@";  // which is all that the first word carries
-    const bool window = words[1] == "w" || words[1] == "window";
-    const std::vector<Query>& queries = window ? WindowQueries() : TableQueries();
-    const Query* found = EtsiMuoto(std::span<const Query>(queries), words);
+    return words;
+}
+
+// Those among which a query is; none for one that is only a word.
+std::span<const Query> QueriesFor(const std::vector<std::string>& words) {
+    if (words.size() == 1) {
+        return {};
+    }
+    return words[1] == "w" || words[1] == "window" ? WindowQueries() : TableQueries();
+}
+
+}  // namespace
+
+bool TunteeKysymyksen(const std::string& query) {
+    const std::vector<std::string> words = WordsOf(query);
+    const auto mayFit = [&words](const Query& known) { return known.form.MayFit(words); };
+    return std::ranges::any_of(WindowQueries(), mayFit) ||
+           std::ranges::any_of(TableQueries(), mayFit);
+}
+
+std::optional<ToolValue> Kysy(ToolRun& run, const std::string& query) {
+    const std::vector<std::string> words = WordsOf(query);
+    const Query* found = EtsiMuoto(QueriesFor(words), words);
     return found == nullptr ? std::nullopt : std::optional(found->answer({run, words}));
 }
 

@@ -14,4 +14,7 @@ class ToolRun;
 /// known; throws ToolFault for one that asks for what is not there.
 std::optional<ToolValue> Kysy(ToolRun& run, const std::string& query);
 
+/// Whether the language has that query, or may have it once its variables are in place.
+bool TunteeKysymyksen(const std::string& query);
+
 }  // namespace tessarin

@@ -20,30 +20,10 @@ bool SkriptiKaynnissa = false;
 
 namespace {
 
-constexpr std::string_view kBlanks = " ";
-
 constexpr const char* kFatal = "Fatal error";
 
 // A loop takes this long before anybody wonders how far it is.
 constexpr double kRoundsThatCount = 1000;
-
-std::string_view Trimmed(std::string_view line) {
-    const auto first = line.find_first_not_of(kBlanks);
-    return first == std::string_view::npos
-               ? ""
-               : line.substr(first, line.find_last_not_of(kBlanks) - first + 1);
-}
-
-// What ends each line; the text behind the last line end is none.
-std::vector<std::string> LinesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    for (std::string_view line : Split(text, '\n')) {
-        line.remove_suffix(line.ends_with('\r') ? 1 : 0);
-        lines.emplace_back(line);
-    }
-    lines.pop_back();
-    return lines;
-}
 
 bool IsFileStep(const ToolLine& line) {
     static const ToolPattern step("w|window.N.file");
@@ -133,6 +113,7 @@ void ToolRun::CloseReport() {
     try {
         report.Close();
     } catch (const ToolFault& fault) {
+        surroundings_.showRow = {};
         Keskeyta(fault.reason + ".", kFatal);
     }
 }
@@ -141,30 +122,11 @@ void ToolRun::CloseReport() {
 void ToolRun::RunLine() {
     const BoxButton stop(main_.Services().dialogs, {"Stop", [] { SkriptiKaynnissa = false; }});
     std::string& line = lines_[static_cast<std::size_t>(RiviNumero)];
-    if (!IsPassedOver(line)) {
+    if (!conditions_.OhitaRivi(line)) {
         line = std::string(Trimmed(line));
         const std::string whole = line;
         Execute(whole);
     }
-}
-
-// Conditions are counted by the letters on a line, wherever they stand.
-bool ToolRun::IsPassedOver(const std::string& line) {
-    constexpr std::size_t kShortest = 3;
-    if (Length(line) < kShortest || line[0] == '#') {
-        return true;
-    }
-    if (line.find("endif") != std::string::npos) {
-        if (OhitusSyvyys == 0) {
-            Ohita = false;
-        } else {
-            --OhitusSyvyys;
-        }
-    }
-    if (Ohita && line.find("if.") != std::string::npos) {
-        ++OhitusSyvyys;
-    }
-    return Ohita;
 }
 
 void ToolRun::Execute(const std::string& whole) {
@@ -201,6 +163,9 @@ void ToolRun::Keskeyta(const std::string& message, const std::string& title) {
     aborted_ = true;
     SkriptiKaynnissa = false;
     if (!message.empty()) {
+        if (surroundings_.showRow) {
+            surroundings_.showRow(RiviNumero + 1);
+        }
         const BoxButton none(main_.Services().dialogs, {});
         User().Abort(message, title);
     }

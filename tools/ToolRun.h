@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tools/Expression.h"
+#include "tools/ToolConditions.h"
 #include "tools/ToolLine.h"
 #include "tools/ToolReport.h"
 #include "tools/ToolUser.h"
@@ -38,6 +39,8 @@ struct ToolSurroundings {
     std::function<void(const std::string& list)> showVariables{};
     /// Shows the tool window in full.
     std::function<void()> showWindow{};
+    /// Shows the line, counted from 1, that ends the run; empty when nobody sees its text.
+    std::function<void(int row)> showRow{};
     /// Nobody sees a picture but whoever asks for it: those that the tool soon replaces are left
     /// out.
     bool unseen = false;
@@ -70,7 +73,7 @@ class ToolRun {
     void Aloita(double rounds);
     void Kierros(const std::string& condition);
     /// A condition: what follows is skipped up to its `endif` unless it holds.
-    void Ehto(bool holds) { Ohita = !holds; }
+    void Ehto(bool holds) { conditions_.Aseta(holds); }
 
     /// A path of the tool's: separators of other systems are understood.
     std::string Polku(std::string_view name) const;
@@ -87,7 +90,6 @@ class ToolRun {
     /// Runs the line where the run is; what goes wrong in it ends the run with a word to the user.
     void TryLine();
     void CloseReport();
-    bool IsPassedOver(const std::string& line);
     void Execute(const std::string& whole);
     void RunUnseen(const ToolLine& line);
     /// `Edisty` means advance: says in the status bar where the run is; `loop` when its rounds are
@@ -98,8 +100,7 @@ class ToolRun {
     ToolSurroundings surroundings_;
     std::vector<std::string> lines_;
     int32_t RiviNumero = 0;
-    bool Ohita = false;          // skipping up to the matching endif
-    int32_t OhitusSyvyys = 0;    // conditions opened while skipping
+    Ehdot conditions_;
     int32_t SilmukkaSyvyys = 0;  // loop depth
     std::array<SkriptiSilmukka, 101> Silmukat;
     ToolVariables variables_;

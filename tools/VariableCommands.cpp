@@ -1,4 +1,5 @@
 // Commands on a variable: lines whose first word holds "$".
+#include <algorithm>
 #include <vector>
 
 #include "core/Numbers.h"
@@ -12,6 +13,7 @@ namespace {
 struct VariableCommand {
     ToolPattern form;  // without the variable
     void (*run)(ToolRun& run, SkriptiMuuttuja& variable, const ToolValue& value);
+    bool meant = true;  // somebody writes it on purpose
 };
 
 void Set(ToolRun& /*run*/, SkriptiMuuttuja& variable, const ToolValue& value) {
@@ -115,12 +117,20 @@ const std::vector<VariableCommand>& Commands() {
          [](ToolRun& run, Variable& variable, const ToolValue& value) {
              run.Ehto(value.Text() != variable.Arvo);
          }},
-        {ToolPattern("if.X"), [](ToolRun& run, Variable&, const ToolValue&) { run.Ehto(false); }},
+        {ToolPattern("if.X"), [](ToolRun& run, Variable&, const ToolValue&) { run.Ehto(false); },
+         false},
     };
     return commands;
 }
 
 }  // namespace
+
+bool TunteeMuuttujakomennon(std::span<const std::string> words) {
+    const auto fits = [words](const VariableCommand& command) {
+        return command.meant && command.form.Fits(words.subspan(1)) == ToolPattern::Fit::kYes;
+    };
+    return words[0].find('$') != std::string::npos && std::ranges::any_of(Commands(), fits);
+}
 
 bool SuoritaMuuttujakomento(ToolRun& run, const ToolLine& line) {
     const std::string& name = line.words[0];

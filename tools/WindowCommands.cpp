@@ -208,6 +208,10 @@ const std::vector<WindowCommand>& Commands() {
 
 }  // namespace
 
+bool TunteeIkkunakomennon(std::span<const std::string> words) {
+    return Tuntee(std::span<const WindowCommand>(Commands()), words);
+}
+
 bool SuoritaIkkunakomento(ToolRun& run, const ToolLine& line) {
     if (line.words[0] != "w" && line.words[0] != "window") {
         return false;

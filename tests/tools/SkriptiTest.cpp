@@ -24,6 +24,17 @@ class SkriptiTest : public ProgramTest {
     }
     bool RunFromMenu(const std::string& text) { return window_.AjaValikosta(text, user_); }
 
+    void Type(const std::string& text) {
+        Text().text = text;
+        Text().onEdit();
+    }
+    bool Resting() const { return platform.timers.running.back(); }
+    // The moment passes after which the window looks at what was typed.
+    void Rest() {
+        ASSERT_TRUE(Resting());
+        platform.timers.ticks.back()();
+    }
+
     Skripti window_{main};
     DialogToolUser user_{platform.dialogs};
 };
@@ -103,6 +114,49 @@ TEST_F(SkriptiTest, TheTextBoxRunsAndShowsItsVariables) {
     EXPECT_EQ(Form().controls.Get<ScriptedTextField>("KursorinPaikka").text, "Row: 7");
     Button("Tyhjenna").Click();
     EXPECT_EQ(Text().text, "");
+}
+
+TEST_F(SkriptiTest, AFaultShowsItsRowAndWhy) {
+    Text().text = "$a.set:1\n w.9.zero\n$b.set:2";
+    Button("Toteuta").Click();
+    EXPECT_EQ(Text().markedRow, 2);
+    EXPECT_EQ(platform.dialogs.messages.at(0).text,
+              "There is an error in the code on line 2. Aborting.\n"
+              "There is no window 9: w.9.zero");
+    Text().markedRow = 0;
+    RunFromMenu("w.9.zero\r\n");
+    EXPECT_EQ(Text().markedRow, 0) << "another text";
+    platform.loop.atNextYield = [&] { Text().text = "w.9.zero"; };
+    Button("Toteuta").Click();
+    EXPECT_EQ(platform.dialogs.messages.size(), 3U);
+    EXPECT_EQ(Text().markedRow, 0) << "it was changed during the run";
+}
+
+TEST_F(SkriptiTest, WhatIsNoCommandIsToldWhenTypingRests) {
+    Type("$a.set:1\nw.1.axsis.x:$a");
+    EXPECT_EQ(Box("Muuttujat").text, "") << "still typing";
+    Rest();
+    EXPECT_EQ(Box("Muuttujat").text, "Row 2: `w.1.axsis.x` is no command\n");
+    EXPECT_FALSE(Resting()) << "told once";
+    std::string during;
+    platform.loop.atNextYield = [&] {
+        Type("w.1.axsis.y:$a");
+        Rest();
+        during = Box("Muuttujat").text;
+    };
+    Button("Toteuta").Click();
+    EXPECT_EQ(during, Box("Muuttujat").text) << "values alone while it runs";
+    EXPECT_EQ(during, "$a: 1\n");
+    EXPECT_TRUE(Resting());
+    Rest();
+    EXPECT_EQ(Box("Muuttujat").text, "Row 1: `w.1.axsis.y` is no command\n$a: 1\n");
+    Type("one\ntwo\nthree\nfour");
+    Rest();
+    EXPECT_EQ(Box("Muuttujat").text,
+              "Row 1: `one` is no command\nRow 2: `two` is no command\n"
+              "Row 3: `three` is no command\n$a: 1\n");
+    Button("Tyhjenna").Click();
+    EXPECT_EQ(Box("Muuttujat").text, "$a: 1\n") << "nothing is left to be told of";
 }
 
 TEST_F(SkriptiTest, SizesTakeTurns) {

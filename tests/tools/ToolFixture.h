@@ -29,7 +29,9 @@ class ToolRunTest : public ProgramTest {
         platform.dialogs.messages.clear();
         ToolSurroundings surroundings{user};
         surroundings.showVariables = [this](const std::string& list) { shown_ = list; };
+        surroundings.showRow = [this](int row) { row_ = row - 2; };
         surroundings.unseen = unseen_;
+        row_ = 0;
         ToolRun run(main, surroundings);
         const std::string head = "folder.set:" + folder_.Path() + "~output.set:report~";
         ended_ = run.AjaOhjelma(KorvaaTeksti(head + lines + "~", "~", "\r\n"));
@@ -69,6 +71,7 @@ class ToolRunTest : public ProgramTest {
     std::ostringstream log_;
     std::string shown_;
     bool ended_ = false;
+    int row_ = 0;  // of the lines that ran, the one that ended the run; 0 for none
     bool unseen_ = false;
 };
 

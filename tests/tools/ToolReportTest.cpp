@@ -48,9 +48,11 @@ TEST_F(ToolReportTest, AReportThatFindsNoPlaceEndsTheRun) {
     const FullDisk full(10);
     EXPECT_EQ(Reason("output.write:more than ten bytes"), Full() + ".") << "told at the end";
     EXPECT_FALSE(ended_);
+    EXPECT_EQ(row_, 0) << "no line is at fault";
     EXPECT_EQ(platform.dialogs.messages.back().title, "Fatal error");
     EXPECT_EQ(Reason("output.write:more than ten bytes~output.close~message:never"),
               Full() + ": output.close");
+    EXPECT_EQ(row_, 2);
     EXPECT_EQ(Reason("output.write:more than ten bytes~output.set:other~message:never"),
               Full() + ": output.set:other");
     EXPECT_EQ(Fails("output.write:more than ten bytes~end"), Full() + ".");

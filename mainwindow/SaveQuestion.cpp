@@ -9,13 +9,14 @@ std::string KysyTallennuspaikka(Dialogs& dialogs, const FileQuestion& question) 
     if (!path.empty() && std::filesystem::path(path).extension().empty()) {
         path += question.ending;
     }
+    return !path.empty() && SaakoKorvata(dialogs, path) ? path : "";
+}
+
+bool SaakoKorvata(Dialogs& dialogs, const std::string& path) {
     std::error_code error;
-    if (!path.empty() && std::filesystem::exists(path, error) &&
-        !dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
-                     QuestionButtons::kOkCancel)) {
-        return "";
-    }
-    return path;
+    return !std::filesystem::exists(path, error) ||
+           dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
+                       QuestionButtons::kOkCancel);
 }
 
 }  // namespace tessarin

@@ -11,4 +11,7 @@ namespace tessarin {
 /// when a file is there. Empty when the user thinks better of it.
 std::string KysyTallennuspaikka(Dialogs& dialogs, const FileQuestion& question);
 
+/// `SaakoKorvata` means may it be replaced: asks when a file is at that place.
+bool SaakoKorvata(Dialogs& dialogs, const std::string& path);
+
 }  // namespace tessarin

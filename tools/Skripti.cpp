@@ -5,6 +5,7 @@
 
 #include "mainwindow/PaaIkkuna.h"
 #include "tools/ToolCheck.h"
+#include "tools/ToolFiles.h"
 #include "tools/ToolRun.h"
 
 namespace tessarin {
@@ -17,6 +18,8 @@ constexpr PixelBox kCursorPlace{112, 320, 97, 19};
 constexpr PixelBox kClear{216, 320, 97, 17};
 constexpr PixelBox kSize{320, 320, 97, 17};
 constexpr PixelBox kVariablesLabel{8, 344, 89, 16};
+constexpr PixelBox kOpen{216, 340, 97, 17};
+constexpr PixelBox kSave{320, 340, 97, 17};
 constexpr PixelBox kVariables{8, 360, 409, 129};
 constexpr int kFullWidth = 425;
 constexpr int kFullHeight = 491;
@@ -51,6 +54,8 @@ void Skripti::MakeControls() {
     KursorinPaikka = controls.MakeTextField({"KursorinPaikka", "Row of the cursor", {}, true});
     Tyhjenna = controls.MakeButton({"Tyhjenna", "Clear"});
     MuutaKokoa = controls.MakeButton({"MuutaKokoa", "Minimize"});
+    Avaa = controls.MakeButton({"Avaa", "Open..."});
+    Talleta = controls.MakeButton({"Talleta", "Save as..."});
     label_ = controls.MakeLabel({"MuuttujienOtsikko", "Variable values"});
     MuuttujienArvot = controls.MakeTextBox({"Muuttujat", "Variable values", {}, true});
     KursorinPaikka->SetText("Row: 1");
@@ -58,6 +63,8 @@ void Skripti::MakeControls() {
     Toteuta->onClick = [this] { Toteuta_Click(); };
     Teksti->onEdit = [this] { TekstiMuuttui(); };
     Tyhjenna->onClick = [this] { Tyhjenna_Click(); };
+    Avaa->onClick = [this] { Avaa_Click(); };
+    Talleta->onClick = [this] { Talleta_Click(); };
     MuutaKokoa->onClick = [this] { MuutaSkriptiKoko(""); };
 }
 
@@ -65,9 +72,9 @@ void Skripti::MakeControls() {
 void Skripti::Arrange() {
     const bool full = !SkriptiPieni;
     Toteuta->SetPlace(kSmallExecute);
-    for (Control* control :
-         std::initializer_list<Control*>{Teksti.get(), KursorinPaikka.get(), Tyhjenna.get(),
-                                         MuutaKokoa.get(), label_.get(), MuuttujienArvot.get()}) {
+    for (Control* control : std::initializer_list<Control*>{
+             Teksti.get(), KursorinPaikka.get(), Tyhjenna.get(), MuutaKokoa.get(), Avaa.get(),
+             Talleta.get(), label_.get(), MuuttujienArvot.get()}) {
         control->SetVisible(full);
     }
     if (!full) {
@@ -80,6 +87,8 @@ void Skripti::Arrange() {
     KursorinPaikka->SetPlace(Grown(kCursorPlace, down, 0, 0));
     Tyhjenna->SetPlace(Grown(kClear, down, 0, 0));
     MuutaKokoa->SetPlace(Grown(kSize, down, 0, 0));
+    Avaa->SetPlace(Grown(kOpen, down, 0, 0));
+    Talleta->SetPlace(Grown(kSave, down, 0, 0));
     label_->SetPlace(Grown(kVariablesLabel, down, 0, 0));
     MuuttujienArvot->SetPlace(Grown(kVariables, down, wider, 0));
 }
@@ -165,6 +174,36 @@ void Skripti::Toteuta_Click() {
 
 void Skripti::Tyhjenna_Click() {
     AsetaTeksti("");
+}
+
+// What was typed is asked about; what Clear takes away comes back by undoing.
+void Skripti::Avaa_Click() {
+    Dialogs& dialogs = main_.Services().dialogs;
+    const std::string text = Teksti->Text();
+    if (!text.empty() && text != saved_ &&
+        !dialogs.Ask("The tool in the window has not been saved. Open another in its place?",
+                     "Open tool", QuestionButtons::kOkCancel)) {
+        return;
+    }
+    if (const auto opened = AvaaTyokalu(dialogs, TyokaluKansio(main_.Services()))) {
+        path_ = opened->path;
+        AsetaTeksti(opened->text);
+        saved_ = Teksti->Text();
+    }
+}
+
+void Skripti::Talleta_Click() {
+    const std::string text = Teksti->Text();
+    const std::string start = path_.empty() ? TyokaluKansio(main_.Services()) : path_;
+    const std::string path = TalletaTyokalu(main_.Services().dialogs, start, text);
+    if (path.empty()) {
+        return;
+    }
+    path_ = path;
+    saved_ = text;
+    if (onSaved) {
+        onSaved();
+    }
 }
 
 void Skripti::AsetaTeksti(const std::string& text) {

@@ -1,6 +1,7 @@
 // The tool window: a tool written and run in it, and the Stop button of any other run.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -38,12 +39,17 @@ class Skripti : public CopySource, private FormEvents {
     /// The marked part of the text box, or all of it.
     void CopyToClipboard() override;
 
+    /// A tool was saved in the folder of tools, perhaps a new one.
+    std::function<void()> onSaved;
+
   private:
     void Form_Activate() override;
     void Form_QueryUnload() override { form_->Hide(); }
     void Form_Resize(bool /*byUser*/) override { Arrange(); }
     void Form_MouseMove() override;
     void Toteuta_Click();
+    void Avaa_Click();
+    void Talleta_Click();
     void Tyhjenna_Click();
     /// The user has changed the text, and rests for a moment.
     void TekstiMuuttui();
@@ -71,9 +77,13 @@ class Skripti : public CopySource, private FormEvents {
     std::unique_ptr<TextField> KursorinPaikka;  // place of the cursor
     std::unique_ptr<Button> Tyhjenna;           // clear
     std::unique_ptr<Button> MuutaKokoa;         // change the size
+    std::unique_ptr<Button> Avaa;               // open
+    std::unique_ptr<Button> Talleta;            // save
     std::unique_ptr<Label> label_;
     std::unique_ptr<TextBox> MuuttujienArvot;  // values of the variables
     std::unique_ptr<Timer> rest_;              // ticks when the user has stopped typing
+    std::string path_;                         // of the tool opened or saved last
+    std::string saved_;                        // the text as it was then
     std::string unknown_;                      // rows that the language does not know
     std::string values_;                       // of the variables, as they are shown
     bool placed_ = false;

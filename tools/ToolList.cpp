@@ -6,13 +6,27 @@
 #include "core/NaturalOrder.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "tools/Skripti.h"
+#include "tools/ToolFiles.h"
 #include "tools/ToolPack.h"
 #include "tools/ToolUser.h"
 
 namespace tessarin {
 
 ToolList::ToolList(PaaIkkuna& main, Skripti& window)
-    : main_(main), window_(window), folder_(main.Services().programFolder + "scripts/") {
+    : main_(main), window_(window), folder_(TyokaluKansio(main.Services())) {
+    Lue();
+    window_.onSaved = [this] {
+        Lue();
+        main_.RakennaValikot();
+    };
+}
+
+ToolList::~ToolList() {
+    window_.onSaved = nullptr;
+}
+
+void ToolList::Lue() {
+    tools_.clear();
     std::error_code error;
     std::filesystem::directory_iterator entry(folder_, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {

@@ -19,16 +19,21 @@ struct SkriptiTieto {
 
 class ToolList : public ToolMenu {
   public:
-    /// Lists the tools in `scripts/` beside the program, in the order that the file system gives
-    /// them. Without that folder there are none.
-    /// They run in `window`.
+    /// Lists the tools in `scripts/` beside the program by their names. Without that folder there
+    /// are none. They run in `window`; what is saved there stands in the menu at once.
     ToolList(PaaIkkuna& main, Skripti& window);
+    ~ToolList() override;
+    ToolList(const ToolList&) = delete;
+    ToolList& operator=(const ToolList&) = delete;
 
     std::vector<std::string> Nimet() const override;
     /// Reads the tool and runs it; questions go to the user.
     void Aja(std::size_t tool) override;
 
   private:
+    /// `Lue` means read: the folder.
+    void Lue();
+
     PaaIkkuna& main_;
     Skripti& window_;
     std::string folder_;

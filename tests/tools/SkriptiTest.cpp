@@ -1,8 +1,14 @@
 // The tool window: what runs in it and beside it, stopping, sizes, and leaving in the middle.
 #include "tools/Skripti.h"
 
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
 #include "tests/support/ProgramFixture.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tools/ToolList.h"
+#include "tools/ToolPack.h"
 #include "tools/ToolRun.h"
 
 namespace tessarin {
@@ -157,6 +163,105 @@ TEST_F(SkriptiTest, WhatIsNoCommandIsToldWhenTypingRests) {
               "Row 3: `three` is no command\n$a: 1\n");
     Button("Tyhjenna").Click();
     EXPECT_EQ(Box("Muuttujat").text, "$a: 1\n") << "nothing is left to be told of";
+}
+
+// Opens and saves in a folder of tools, which stand in the menu.
+class ToolFilesTest : public testing::Test {
+  protected:
+    ToolFilesTest() {
+        std::filesystem::create_directory(folder_.Path("scripts"));
+        folder_.Write("scripts/old.tsrscript", "message:old\r\nend\r\n");
+        platform.programFolder = folder_.Path();
+        main_ = std::make_unique<PaaIkkuna>(platform.Services());
+        window_ = std::make_unique<Skripti>(*main_);
+        tools_ = std::make_unique<ToolList>(*main_, *window_);
+        main_->Kumppanit().tools = tools_.get();
+        main_->Kaynnista();
+        window_->MuutaSkriptiKoko("iso");
+    }
+    ~ToolFilesTest() override { PalautaAlkutila(); }
+
+    ScriptedControlMaker& Controls() { return platform.mainForm.children.front()->controls; }
+    ScriptedTextBox& Text() { return Controls().Get<ScriptedTextBox>("Teksti"); }
+    // Presses that button; the user chooses that file, or Cancel, if he is asked for one.
+    void Press(const char* button, const std::string& chosen) {
+        platform.dialogs.messages.clear();
+        platform.dialogs.questions.clear();
+        platform.dialogs.texts = {chosen.empty() ? "" : folder_.Path(chosen)};
+        Controls().Get<ScriptedButton>(button).Click();
+    }
+    std::string Content(const std::string& name) {
+        std::ifstream in(folder_.Path(name), std::ios::binary);
+        return std::string{std::istreambuf_iterator<char>(in), {}};
+    }
+    std::string Menu() const {
+        std::string captions;
+        for (const MenuItem& item : platform.mainForm.menus[4].items) {
+            captions += item.caption + (item.enabled ? " " : "(off) ");
+        }
+        return captions;
+    }
+
+    TemporaryFolder folder_;
+    ScriptedPlatform platform;
+    std::unique_ptr<PaaIkkuna> main_;
+    std::unique_ptr<Skripti> window_;
+    std::unique_ptr<ToolList> tools_;
+};
+
+TEST_F(ToolFilesTest, ASavedToolStandsInTheMenuAtOnce) {
+    EXPECT_EQ(Menu(), "old ");
+    Text().text = "message:new\n\xc3\xa4";
+    Press("Talleta", "");
+    EXPECT_EQ(Menu(), "old ");
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    EXPECT_EQ(platform.dialogs.lastPreset, folder_.Path("scripts/"));
+    Press("Talleta", "scripts/new");
+    EXPECT_EQ(Content("scripts/new.tsrscript"), "message:new\r\n\xc3\xa4\r\n");
+    EXPECT_EQ(Menu(), "new old ");
+    platform.mainForm.events->Command(platform.mainForm.menus[4].items[0].command);
+    EXPECT_EQ(platform.dialogs.messages.at(0).text, "new") << "and runs from there";
+
+    platform.dialogs.answers = {false};
+    Press("Talleta", "scripts/old.TSRSCRIPT.tsrpack");  // which nothing packs
+    EXPECT_EQ(Menu(), "new old old ");
+    Press("Talleta", "scripts/old.tsrscript");
+    EXPECT_EQ(platform.dialogs.questions.at(1).title, "File already exists");
+    EXPECT_EQ(Content("scripts/old.tsrscript"), "message:old\r\nend\r\n");
+    EXPECT_EQ(platform.dialogs.lastPreset, folder_.Path("scripts/old.TSRSCRIPT.tsrpack.tsrscript"));
+    Press("Talleta", "nowhere/tool.tsrscript");
+    EXPECT_EQ(platform.dialogs.messages.at(0).text,
+              "The tool '" + folder_.Path("nowhere/tool.tsrscript") + "' could not be written.");
+}
+
+TEST_F(ToolFilesTest, AnOpenedToolTakesThePlaceOfASavedOneAlone) {
+    Press("Avaa", "scripts/old.tsrscript");
+    EXPECT_EQ(platform.dialogs.lastPreset, folder_.Path("scripts/"));
+    EXPECT_EQ(Text().text, "message:old\nend\n");
+    EXPECT_EQ(platform.dialogs.questions.size(), 1U) << "an empty box is not asked about";
+    Press("Avaa", "scripts/old.tsrscript");
+    EXPECT_EQ(platform.dialogs.questions.size(), 1U) << "nor is a tool as it was opened";
+    Press("Talleta", "");
+    EXPECT_EQ(platform.dialogs.lastPreset, folder_.Path("scripts/old.tsrscript"));
+
+    Text().text = "mine";
+    platform.dialogs.answers = {false};
+    Press("Avaa", "scripts/old.tsrscript");
+    EXPECT_EQ(Text().text, "mine");
+    EXPECT_EQ(platform.dialogs.questions.at(0).title, "Open tool");
+    Press("Avaa", "");
+    EXPECT_EQ(Text().text, "mine") << "thought better of it";
+    Press("Talleta", "scripts/mine.tsrscript");
+    Press("Avaa", "scripts/old.tsrscript");
+    EXPECT_EQ(platform.dialogs.questions.size(), 1U) << "nor one as it was saved";
+
+    folder_.Write("scripts/a.tsrpack", TeePaketti("end\r\n"));
+    for (const auto& [name, why] : {std::pair{"scripts/a.tsrpack", "is packed"},
+                                    {"scripts/none.tsrscript", "could not be read"}}) {
+        Press("Avaa", name);
+        EXPECT_NE(platform.dialogs.messages.at(0).text.find(why), std::string::npos) << name;
+        EXPECT_EQ(Text().text, "message:old\nend\n");
+    }
 }
 
 TEST_F(SkriptiTest, SizesTakeTurns) {

@@ -132,15 +132,16 @@ class FcsReading {
     }
 
     bool ReadCounts() {
-        const auto events = ParseWholeNumber(Keyword("\\$TOT"));
+        const auto events = ParseNumber(Keyword("\\$TOT"));
         const auto channels = ParseWholeNumber(Keyword("\\$PAR"));
-        if (!events || *events < 0) {
+        if (!events || Rounded(*events) < 0) {
             return Refuse("$TOT is missing or no number of events");
         }
         if (!channels || *channels < 1 || *channels > std::numeric_limits<int16_t>::max()) {
             return Refuse("$PAR is missing or no number of channels");
         }
-        file_.EventCount = std::min(*events, MaxLoadedEvents);
+        promised_ = Rounded(*events);
+        file_.EventCount = std::min(ToInt32(promised_), MaxLoadedEvents);
         file_.Otsikko.LoadedEvents = file_.EventCount;
         file_.ChannelCount = static_cast<int16_t>(*channels);
         return true;
@@ -183,6 +184,7 @@ class FcsReading {
 
     // False when no such tables should be had; throws when they cannot be had.
     bool SizeTables() {
+        DropEmptyPromises();
         if (!OvatkoTaulutJarkevat(file_.EventCount, file_.ChannelCount, source_.Size())) {
             return Refuse("its tables would be many times larger than the file");
         }
@@ -190,6 +192,32 @@ class FcsReading {
         file_.Data.Mitoita(file_.EventCount, file_.ChannelCount);
         file_.Membership.Mitoita(file_.EventCount, kPopulationSlots);
         return true;
+    }
+
+    // Where the tables would be large for the file, only the events that are there count.
+    void DropEmptyPromises() {
+        if (!VoikoOllaLupaus(file_.EventCount, file_.ChannelCount, source_.Size())) {
+            return;
+        }
+        const uint64_t there = EventsThere();
+        if (there < static_cast<uint64_t>(file_.EventCount)) {
+            const auto events = static_cast<int32_t>(there);
+            oddities_.Add("the file promises " + NumberText(promised_) + " events and holds " +
+                          std::to_string(events) + ", which are the ones loaded");
+            file_.EventCount = file_.Otsikko.LoadedEvents = events;
+            file_.WholeEvents = events;
+        }
+    }
+
+    // The whole events between the place of DATA and the end of the file.
+    uint64_t EventsThere() const {
+        const auto place = static_cast<uint64_t>(DataPlace().value_or(0));
+        if (place == 0 || place >= source_.Size()) {
+            return 0;
+        }
+        // Of a value that is not read no more is known than that it takes a byte.
+        const auto valueBytes = std::max(1, FormatOf(file_.Otsikko).bytes);
+        return (source_.Size() - place) / static_cast<uint64_t>(file_.ChannelCount * valueBytes);
     }
 
     bool ReadCompensation() {
@@ -207,17 +235,25 @@ class FcsReading {
     }
 
     void ReadData() {
+        const DataReport report = ReadEvents();
+        if (report.wholeEvents < file_.EventCount) {
+            file_.WholeEvents = report.wholeEvents;
+        }
+    }
+
+    DataReport ReadEvents() {
         const auto place = DataPlace();
         if (!place || static_cast<uint64_t>(*place) >= source_.Size()) {
             if (file_.EventCount > 0) {
                 oddities_.Add("the place of the data lies outside the file, so no value is read");
             }
-            return;
+            return {};
         }
         source_.GoTo(static_cast<uint64_t>(*place));
         const DataReport report =
             LueTapahtumat(source_.Stream(), FormatOf(file_.Otsikko), file_.Data);
         NoteData(file_, report, oddities_);
+        return report;
     }
 
     void ConvertLogChannels() {
@@ -268,6 +304,7 @@ class FcsReading {
     std::string path_;
     int32_t fingerprint_;
     FcsHeader header_;
+    double promised_ = 0;  // what $TOT says
     Tiedosto file_;
     FcsOddities oddities_;
     std::string refusal_;

@@ -30,6 +30,9 @@ int32_t TiedostonSormenjalki(const std::string& path);
 /// `OutOfMemory`. A file is refused when it cannot be read, its version is another, a count or
 /// range that it needs is missing or no number, or its tables cannot be had in memory. At most
 /// `MaxLoadedEvents` events are read.
+/// A file that promises more events than it holds gives them all: those that are not whole repeat
+/// its last bytes. Where their tables would be large for the size of the file it gives only what is
+/// there. `WholeEvents` counts that in either case.
 Tiedosto LueFCS(const std::string& path, int32_t fingerprint = 0);
 
 /// The same for a file that somebody has opened, or could not open.

@@ -1,7 +1,9 @@
 // A loaded data file: its header, its channels, its events and who belongs to which population.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "core/TapahtumaTaulu.h"
@@ -45,6 +47,9 @@ struct Tiedosto {
     std::string FileName;  ///< without folder
     std::string Folder;    ///< ends in the separator; Folder + FileName is the path
     int32_t EventCount = 0;
+    /// Where the file holds fewer events than it promises: how many of them are there whole. Those
+    /// behind were made up of its last bytes, or are 0. Nothing for a file that is all there.
+    std::optional<int32_t> WholeEvents;
     int16_t ChannelCount = 0;
     Taulu<Kanava> Channels;
     TapahtumaTaulu<float> RawData;  ///< as loaded, log channels linear again, never compensated
@@ -61,6 +66,10 @@ struct Tiedosto {
     std::string Oddities;
 
     std::string Path() const { return Folder + FileName; }
+    /// The events in use that the file really gave.
+    int32_t EventsFromFile() const {
+        return std::min(EventCount, WholeEvents.value_or(EventCount));
+    }
 };
 
 }  // namespace tessarin

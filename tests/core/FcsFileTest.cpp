@@ -42,7 +42,6 @@ TEST_F(FcsFileTest, RefusesWhatItCannotUseAndSaysWhy) {
         {"$TOT", "$TOT is missing or no number of events"},
         {"$TOT=many", "$TOT is missing"},
         {"$TOT=-1", "$TOT is missing"},
-        {"$TOT=99999999999", "$TOT is missing"},
         {"$PAR", "$PAR is missing or no number of channels"},
         {"$PAR=0", "$PAR is missing"},
         {"$PAR=32768", "$PAR is missing"},
@@ -62,8 +61,34 @@ TEST_F(FcsFileTest, RefusesWhatItCannotUseAndSaysWhy) {
         ExpectRefused(file);
         EXPECT_NE(file.Refusal.find(why), std::string::npos) << file.Refusal;
     }
+}
+
+TEST_F(FcsFileTest, WhatIsOnlyPromisedTakesNoMemory) {
     MaxLoadedEvents = 2147483647;
-    ExpectRefused(Read(Changed("$TOT=2147483647")));
+    // The file is far smaller than 1 MB, and three events are in it whole.
+    for (const char* promised : {"900000", "2147483647", "99999999999"}) {
+        SCOPED_TRACE(promised);
+        const Tiedosto file = Read(Changed("$TOT="s + promised, kData + "\0\0\0"s));
+        ASSERT_TRUE(file.Valid);
+        EXPECT_EQ(file.EventCount, 3);
+        EXPECT_EQ(file.Otsikko.LoadedEvents + file.Data.Events() + file.Membership.Events(), 9);
+        EXPECT_EQ(file.Data(3, 2), 6);
+        EXPECT_EQ(file.WholeEvents, 3);
+        EXPECT_EQ(file.Oddities, "the file promises "s + promised +
+                                     " events and holds 3, which are the ones loaded");
+    }
+    for (const char* nowhere : {"", "99999999"}) {
+        const Tiedosto none = Read(Changed("$TOT=900000;data begin="s + nowhere));
+        EXPECT_TRUE(none.Valid && none.EventCount == 0) << nowhere;
+    }
+    // A value of a type that is not read may take as little as a byte.
+    EXPECT_EQ(Read(Changed("$TOT=900000;$DATATYPE=D")).EventCount, 12);
+    // 20000 events of two channels take 960000 bytes, which no small file is refused.
+    const Tiedosto filled = Read(Changed("$TOT=20000"));
+    EXPECT_EQ(filled.EventCount, 20000);
+    EXPECT_EQ(filled.WholeEvents, 3);
+    EXPECT_EQ(filled.Data(20000, 1), 6) << "the last bytes, again and again";
+    EXPECT_FALSE(Read(Changed("$COM")).WholeEvents);
 }
 
 TEST_F(FcsFileTest, RefusesWhatIsNoFile) {

@@ -86,11 +86,12 @@ class FcsReading {
         NoteFormat(file_, keywords, oddities_);
         NoteScales(file_, keywords, oddities_);
         ReadData();
+        NoteBytesLeft(file_, promised_, source_.Size(), oddities_);
         NoteValuesAboveRange(file_, keywords, oddities_);
         ConvertLogChannels();
         NoteValuesNotFinite(file_, oddities_);
         ReadDisplay(keywords);
-        NoteRanges(file_, oddities_);
+        NoteRanges(file_, keywords, oddities_);
         file_.RawData = file_.Data;
         file_.Fingerprint = fingerprint_ != 0 ? fingerprint_ : Fingerprint(source_);
         file_.Oddities = oddities_.Line();

@@ -1,5 +1,6 @@
 #include "core/FcsCompensation.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <map>
@@ -52,6 +53,17 @@ class Factors {
     bool broken_ = false;
 };
 
+void TellSpillNames(std::vector<int> channels, FcsOddities& oddities) {
+    std::ranges::sort(channels);
+    const auto known = std::ranges::upper_bound(channels, 0);
+    if (known != channels.begin()) {
+        oddities.Add("SPILL names channels that the file lacks");
+    }
+    if (std::adjacent_find(known, channels.end()) != channels.end()) {
+        oddities.Add("SPILL names a channel twice, and the later factors count");
+    }
+}
+
 // For each of the n names behind the count, the channel of that name; 0 when there is none.
 std::vector<int> NamedChannels(const Pieces& pieces, int n, const Tiedosto& file) {
     std::map<std::string_view, int> byName;
@@ -74,11 +86,9 @@ void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
         return;
     }
     const std::vector<int> channels = NamedChannels(pieces, n, file);
-    bool unknown = false;
     Factors factors(pieces, "SPILL");
     for (int i = 1; i <= n; ++i) {
         const int from = channels[static_cast<std::size_t>(i) - 1];
-        unknown = unknown || from == 0;
         for (int j = 1; j <= n; ++j) {
             const int into = channels[static_cast<std::size_t>(j) - 1];
             const auto factor = factors.At(static_cast<std::size_t>(i) * channels.size() +
@@ -90,9 +100,7 @@ void ReadSpill(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
         }
     }
     factors.Tell(oddities);
-    if (unknown) {
-        oddities.Add("SPILL names channels that the file lacks");
-    }
+    TellSpillNames(channels, oddities);
 }
 
 bool ReadComp(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
@@ -100,6 +108,10 @@ bool ReadComp(std::string_view value, Tiedosto& file, FcsOddities& oddities) {
     const int n = Count(pieces);
     if (n > file.ChannelCount) {
         return false;
+    }
+    if (n != file.ChannelCount) {
+        oddities.Add("$COMP is for " + std::to_string(n) + " of the file's " +
+                     std::to_string(file.ChannelCount) + " channels, taken as the first ones");
     }
     Factors factors(pieces, "$COMP");
     for (int i = 1; i <= n; ++i) {

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <functional>
+#include <limits>
 
 #include "core/Numbers.h"
 #include "core/Text.h"
@@ -130,11 +131,32 @@ void NoteScales(const Tiedosto& file, const ChannelKeywords& keywords, FcsOdditi
     }
 }
 
-void NoteRanges(const Tiedosto& file, FcsOddities& oddities) {
+void NoteRanges(const Tiedosto& file, const ChannelKeywords& keywords, FcsOddities& oddities) {
+    constexpr int32_t kLargest = std::numeric_limits<int32_t>::max();
+    AddForChannels(file, oddities, "a range above " + std::to_string(kLargest) + " was cut to it",
+                   [&](int channel) {
+                       const auto told =
+                           ParseNumber(keywords.Value(ChannelKeywords::Kind::kRange, channel));
+                       return told && Rounded(*told) > kLargest;
+                   });
     AddForChannels(file, oddities, "a range that gives no scale", [&](int channel) {
         const Kanava& kanava = file.Channels(channel);
         return kanava.Range < 1 || (kanava.IsLog && kanava.Range < 2);
     });
+}
+
+void NoteBytesLeft(const Tiedosto& file, double events, uint64_t fileSize, FcsOddities& oddities) {
+    const FcsOtsikko& header = file.Otsikko;
+    const double eventBytes = FormatOf(header).bytes * file.ChannelCount;
+    if (header.DataBegin <= 0 || header.DataEnd <= 0 || eventBytes == 0) {
+        return;
+    }
+    const double end = std::min(header.DataEnd + 1.0, static_cast<double>(fileSize));
+    const double bytes = end - header.DataBegin;
+    if (bytes - events * eventBytes > eventBytes) {
+        oddities.Add("the data take " + NumberText(bytes) + " bytes, of which $TOT and $PAR tell " +
+                     NumberText(events * eventBytes) + "; the rest is not shown");
+    }
 }
 
 void NoteData(const Tiedosto& file, const DataReport& report, FcsOddities& oddities) {

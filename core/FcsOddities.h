@@ -1,6 +1,7 @@
 // Words for what is odd about an FCS file that opens all the same.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +31,12 @@ void NoteFormat(const Tiedosto& file, const ChannelKeywords& keywords, FcsOdditi
 /// Scales that $PnE names and the program does not have.
 void NoteScales(const Tiedosto& file, const ChannelKeywords& keywords, FcsOddities& oddities);
 
-/// Ranges that give no scale. REQUIRES: it is decided which channels are log.
-void NoteRanges(const Tiedosto& file, FcsOddities& oddities);
+/// Ranges that give no scale, or are larger than is kept. REQUIRES: it is decided which channels
+/// are log.
+void NoteRanges(const Tiedosto& file, const ChannelKeywords& keywords, FcsOddities& oddities);
+
+/// A DATA segment that holds more than `events` ($TOT) events, by the places in the header.
+void NoteBytesLeft(const Tiedosto& file, double events, uint64_t fileSize, FcsOddities& oddities);
 
 /// Data that end early or were cut. REQUIRES: the report is that of reading `file`.
 void NoteData(const Tiedosto& file, const DataReport& report, FcsOddities& oddities);

@@ -158,13 +158,23 @@ TEST_F(FcsFileTest, WhatIsOddGetsAWord) {
         {spill + "2,C1,C2,1,0.1", "SPILL has entries that are missing"},
         {spill + "2,C1,C2,1,x,0.2,1", "SPILL has entries that are missing"},
         {"APPLY COMPENSATION=TRUE", "no factors"},
+        {spill + "2,C1,C1,1,0.1,0.2,1", "SPILL names a channel twice"},
         {"$COMP=2,0,-20", "$COMP has entries that are missing"},
+        {"$COMP=1,0", "$COMP is for 1 of the file's 2 channels"},
+        {"$COMP=0", "$COMP is for 0 of"},
+        {"$COMP=-2,0,0,0,0", "$COMP is for 0 of"},
+        {"$P1R=2147483648", "a range above 2147483647 was cut to it (P1)"},
+        {"$TOT=1", "the data take 24 bytes, of which $TOT and $PAR tell 8;"},
+        {"$TOT=1;data end=99999999", "the data take 24 bytes"},
+        {"$PAR=1", "tell 12;"},
         {"$COM", "only 2 of 3 events are whole", kData.substr(0, 23)},
         {"$COM", "so no value is read", ""},
         {"$COM", "cut to their lower 24", "\1" + kData.substr(1)},
         {"$DATATYPE=F", "no numbers (P2)", "\0\0\0\0\x7f\xc0\0\0"s + kData.substr(8)},
     };
-    EXPECT_EQ(Read(Changed("$P1R=5")).Oddities, "") << "an ordinary file passes in silence";
+    for (const char* ordinary : {"$P1R=5", "$TOT=2", "$TOT=1;data end=", "$P1R=2147483647"}) {
+        EXPECT_EQ(Read(Changed(ordinary)).Oddities, "") << ordinary;
+    }
     for (const Case& c : cases) {
         const Tiedosto file = Read(Changed(c.changes, c.data));
         EXPECT_TRUE(file.Valid && file.Oddities.find(c.word) != std::string::npos)

@@ -56,7 +56,9 @@ std::string FcsBuilder::Bytes() const {
     add("version", 10, "FCS3.0");
     add("text begin", 18, "58");
     add("text end", 26, std::to_string(57 + text.size()));
-    add("data begin", 58, std::to_string(58 + text.size()));
+    add("data begin", 34, std::to_string(58 + text.size()));
+    add("data end", 42, std::to_string(57 + text.size() + data.size()));
+    header.resize(58, ' ');
     return header + text + data;
 }
 

@@ -13,8 +13,8 @@ struct FcsBuilder {
     FcsBuilder(const std::string& type, int bits, const std::string& order, int channels,
                int events);
 
-    /// Sets a keyword, or a part of the header: "version", "text begin", "text end", "data begin".
-    /// Parts that are not set are right.
+    /// Sets a keyword, or a part of the header: "version", "text begin", "text end", "data begin",
+    /// "data end". Parts that are not set are right.
     FcsBuilder& Set(const std::string& name, const std::string& value);
     /// Makes changes such as "$TOT=3;$P1E=4,0;text end=10;$PAR"; the last takes a keyword out.
     FcsBuilder& Change(std::string_view changes);

@@ -2,6 +2,7 @@
 #include <QBuffer>
 #include <QDir>
 #include <QStandardPaths>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
 #include <new>
@@ -95,8 +96,9 @@ bool SaveSheet(const PaaIkkuna& main, const std::string& path) {
         return true;
     }
     const Tallennustulos saved = KirjoitaNakyma(main, NakymaLaji::kSheet, path);
-    return Told(saved.result == WriteResult::kDone ? ""
-                                                   : "the sheet could not be written to " + path);
+    return Told(saved.result == WriteResult::kDone
+                    ? ""
+                    : "the sheet could not be written to " + path + ": " + saved.reason);
 }
 
 std::string SaveFcsOf(const FcsSave& save) {
@@ -118,11 +120,10 @@ bool SaveFcs(const CommandLine& line) {
 }
 
 bool SaveClipboard(QtPlatform& platform, const std::string& path) {
-    if (path.empty() || WriteWhole(path, platform.Services().clipboard.Text())) {
-        return true;
-    }
-    std::cerr << "tessarin: the clipboard could not be written to " << path << std::endl;
-    return false;
+    const std::string reason =
+        path.empty() ? "" : WriteWhole(path, platform.Services().clipboard.Text());
+    return Told(reason.empty() ? ""
+                               : "the clipboard could not be written to " + path + ": " + reason);
 }
 
 // False, with a word on standard error, when the picture could not be written.
@@ -139,12 +140,12 @@ bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
     const Bitmap picture = platform.Main().Snapshot();
     const std::string type = std::filesystem::path(path).extension().string();
     QBuffer bytes;
-    if (ViewOf(picture).save(&bytes, type.empty() ? "PNG" : type.substr(1).c_str()) &&
-        WriteWhole(path, bytes.data().toStdString())) {
-        return true;
-    }
-    std::cerr << "tessarin: the picture could not be written to " << path << std::endl;
-    return false;
+    const std::string reason =
+        ViewOf(picture).save(&bytes, type.empty() ? "PNG" : type.substr(1).c_str())
+            ? WriteWhole(path, bytes.data().toStdString())
+            : "pictures of that type are not written";
+    return Told(reason.empty() ? ""
+                               : "the picture could not be written to " + path + ": " + reason);
 }
 
 // The user's folder for what the program keeps, made if need be; empty when there is none.
@@ -208,9 +209,10 @@ int Pack(const CommandLine& line) {
         Told(tool.Valid ? "--pack needs one FILE to write" : "there is no file " + line.pack);
         return kWrongUsage;
     }
-    return Told(WriteWhole(line.files[0], TeePaketti(tool.text))
+    const std::string reason = WriteWhole(line.files[0], TeePaketti(tool.text));
+    return Told(reason.empty()
                     ? ""
-                    : "the pack could not be written to " + line.files[0])
+                    : "the pack could not be written to " + line.files[0] + ": " + reason)
                ? kDone
                : kFailed;
 }
@@ -250,6 +252,8 @@ int AnswerWithoutWindow(const CommandLine& line) {
 }  // namespace tessarin
 
 int main(int argc, char** argv) {
+    // A write beyond the limit of file sizes then fails like any other, and is told.
+    std::signal(SIGXFSZ, SIG_IGN);
     const tessarin::CommandLine line =
         tessarin::TakeCommandLine(std::vector<std::string>(argv + 1, argv + argc));
     const int status = tessarin::AnswerWithoutWindow(line);

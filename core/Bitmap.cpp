@@ -49,7 +49,8 @@ std::string BmpBytes(const Bitmap& picture) {
 }
 
 std::string TalletaKuva(const Bitmap& picture, const std::string& path) {
-    return WriteWhole(path, BmpBytes(picture)) ? "" : "The image could not be written to " + path;
+    const std::string reason = WriteWhole(path, BmpBytes(picture));
+    return reason.empty() ? "" : "The image could not be written to " + path + ": " + reason;
 }
 
 }  // namespace tessarin

@@ -55,7 +55,9 @@ std::string WriteFile(const std::string& path, const Tiedosto& file) {
     SafeFile out(path);
     out.Write(*start);
     WriteEvents(file, out);
-    return out.Commit() == WriteResult::kDone ? "" : "The FCS file could not be written to " + path;
+    return out.Commit() == WriteResult::kDone
+               ? ""
+               : "The FCS file could not be written to " + path + ": " + out.Reason();
 }
 
 }  // namespace

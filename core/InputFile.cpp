@@ -8,12 +8,10 @@
 #include <utility>
 
 namespace tessarin {
-namespace {
 
 namespace fs = std::filesystem;
 
-// Why a path should not be opened at all; empty when it names a regular file.
-std::string Obstacle(const std::string& path) {
+std::string FileObstacle(const std::string& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (!fs::status_known(status) || !fs::exists(status)) {
@@ -25,9 +23,7 @@ std::string Obstacle(const std::string& path) {
     return fs::is_regular_file(status) ? "" : "it is no regular file";
 }
 
-}  // namespace
-
-InputFile::InputFile(const std::string& path) : refusal_(Obstacle(path)) {
+InputFile::InputFile(const std::string& path) : refusal_(FileObstacle(path)) {
     if (!refusal_.empty()) {
         return;
     }

@@ -9,6 +9,10 @@
 
 namespace tessarin {
 
+/// Why a path should not be opened at all, such as "it is a folder" or "No such file or
+/// directory"; empty when it names a regular file.
+std::string FileObstacle(const std::string& path);
+
 /// A regular file, open for reading. Anything else (a folder, a pipe, a device) is left alone:
 /// reading it could wait for ever.
 ///

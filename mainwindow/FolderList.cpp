@@ -9,6 +9,7 @@
 
 #include "core/FCSReader.h"
 #include "core/NaturalOrder.h"
+#include "core/TemporaryName.h"
 
 namespace tessarin {
 namespace {
@@ -72,6 +73,9 @@ class KnownFolders {
         fs::directory_iterator entry(folder, error);
         for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
             File file{entry->path().filename().string(), {}, false};
+            if (IsTemporaryName(file.name)) {
+                continue;
+            }
             const auto found = seen.find(file.name);
             if (found != seen.end()) {
                 file = *found->second;

@@ -16,7 +16,8 @@ std::string TalletaTapahtumat(const PlotData& data, const std::string& path) {
             text += NumberText(xs[row]) + "\t" + NumberText(ys[row]) + "\n";
         }
     }
-    return WriteWhole(path, text) ? "" : "The data could not be written to " + path;
+    const std::string reason = WriteWhole(path, text);
+    return reason.empty() ? "" : "The data could not be written to " + path + ": " + reason;
 }
 
 }  // namespace tessarin

@@ -124,7 +124,7 @@ Purkutulos PuraTiedosto(const std::string& package, const std::string& name, int
         return true;
     });
     if (!whole || out.Commit() != WriteResult::kDone) {
-        return {"", inPackage + "could not be written to " + path + "."};
+        return {"", inPackage + "could not be written to " + path + ": " + out.Reason()};
     }
     return {path, ""};
 }

@@ -26,6 +26,10 @@ std::string NamesCutShort() {
     return names.empty() ? "" : "A sheet cannot keep names with ':' or '#' whole: " + names;
 }
 
+std::string NotWritten(const std::string& path, const std::string& reason) {
+    return "'" + path + "' could not be written: " + reason;
+}
+
 }  // namespace
 
 SheetStore::SheetStore(PaaIkkuna& main, bool autosaves)
@@ -57,12 +61,16 @@ void SheetStore::AskAndSave(NakymaLaji kind) {
 }
 
 void SheetStore::Report(const Tallennustulos& saved, const std::string& path) {
+    if (!saved.message.empty()) {
+        main_.Services().dialogs.Message(saved.message, kTitle);
+    }
+    std::string remark = NotWritten(path, saved.reason);
     if (saved.result == WriteResult::kDenied) {
         AutosaveKaytossa = false;
-        main_.Huomauta("'" + path + "' could not be written: permission denied. Nothing is " +
-                       "autosaved for the rest of this session.");
-    } else if (!saved.message.empty()) {
-        main_.Services().dialogs.Message(saved.message, kTitle);
+        remark += ". Nothing is autosaved for the rest of this session.";
+    }
+    if (!saved.reason.empty()) {
+        main_.Huomauta(remark);
     }
 }
 
@@ -75,7 +83,7 @@ void SheetStore::Autosave() {
     if (text == autosaved_) {
         return;
     }
-    SafeFile out(autosavePath_);
+    SafeFile out(autosavePath_, WriteCare::kQuick);
     out.Write(text);
     const WriteResult result = out.Commit();
     AutosaveKaytossa = result != WriteResult::kDenied;
@@ -85,6 +93,7 @@ void SheetStore::Autosave() {
         // Told once: a box at every step would let nobody work, or save elsewhere.
         failing_ = true;
         main_.Services().dialogs.Message(std::string(kSavingFailed), "");
+        main_.Huomauta(NotWritten(autosavePath_, out.Reason()));
     }
     failing_ = result == WriteResult::kFailed;
 }

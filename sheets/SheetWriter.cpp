@@ -137,11 +137,11 @@ Tallennustulos KirjoitaNakyma(const PaaIkkuna& main, NakymaLaji kind, const std:
     if (kind == NakymaLaji::kPackage) {
         const std::string missing = KirjoitaPaketti(out);
         if (!missing.empty()) {
-            return {WriteResult::kFailed, missing};
+            return {WriteResult::kFailed, missing, ""};
         }
     }
     const WriteResult result = out.Commit();
-    return {result, result == WriteResult::kFailed ? std::string(kSavingFailed) : ""};
+    return {result, result == WriteResult::kFailed ? std::string(kSavingFailed) : "", out.Reason()};
 }
 
 }  // namespace tessarin

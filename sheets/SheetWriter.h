@@ -19,10 +19,11 @@ std::string NakymaTekstina(const PaaIkkuna& main, NakymaLaji kind);
 /// What the user is told when writing fails for no reason of its own.
 inline constexpr std::string_view kSavingFailed = "An error occured during the saving!";
 
-/// What came of a save; `message` is for the user and empty for success.
+/// What came of a save; both texts are for the user and empty for success.
 struct Tallennustulos {
     WriteResult result = WriteResult::kDone;
     std::string message;
+    std::string reason;  ///< the system's, where it is the system that failed
 };
 
 /// `KirjoitaNakyma` means write the view: to a file that is replaced once the new one is whole.

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "tests/support/Leftovers.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace tessarin {
@@ -31,7 +32,7 @@ TEST(Bitmap, IsSavedFromTheBottomInWholeWords) {
     EXPECT_EQ(BmpBytes({4, 1, 1, {0, 0, 0, 0}}).size(), 54U + 12);
     std::filesystem::create_directories(folder.Path("taken/inside"));
     EXPECT_NE(TalletaKuva(picture, folder.Path("taken")), "");
-    EXPECT_FALSE(std::filesystem::exists(folder.Path("taken.part"))) << "nothing is left behind";
+    EXPECT_TRUE(Leftovers(folder.Path()).empty());
 }
 
 }  // namespace

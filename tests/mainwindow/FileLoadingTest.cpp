@@ -7,6 +7,7 @@
 #include <set>
 
 #include "core/FCSReader.h"
+#include "core/TemporaryName.h"
 #include "mainwindow/FileLoading.h"
 #include "mainwindow/FileNavigation.h"
 #include "mainwindow/FolderList.h"
@@ -212,6 +213,7 @@ TEST_F(FileLoadingTest, AFolderIsLookedThroughAgainWhenItHasChanged) {
         return TeeLista(folder).size();
     };
     folder_.Write("a", "");  // as a cytometer leaves it that is still measuring
+    folder_.Write(TemporaryName("a", 1), "FCS3.0 that a kill left behind");
     EXPECT_EQ(resting(std::chrono::hours(1)), 0U);
     std::ofstream(folder_.Path("a")) << "FCS3.0";
     EXPECT_EQ(TeeLista(folder).size(), 1U) << "written on in place";

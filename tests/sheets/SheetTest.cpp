@@ -1,5 +1,6 @@
 // Analysis sheets and packages: what is saved comes back, and what is broken breaks nothing.
 #include "SheetFixture.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tessarin {
 namespace {
@@ -35,6 +36,31 @@ TEST_F(SheetTest, WhatIsSavedComesBack) {
     platform.dialogs.answers = {false};
     Save("FileSaveView", "a");
     EXPECT_EQ(platform.dialogs.questions.back().title, "File already exists");
+}
+
+TEST_F(SheetTest, WhatCannotBeSavedSaysWhy) {
+    const std::string path = folder_.Path("a.tessarin");
+    Save("FileSaveView", "a.tessarin");
+    const std::string saved = Bytes(path);
+    Save("FileSaveView", "missing/a.tessarin");
+    ASSERT_EQ(platform.dialogs.messages.size(), 1U);
+    EXPECT_EQ(platform.dialogs.messages[0].text, "An error occured during the saving!");
+    EXPECT_EQ(platform.mainForm.status, "'" + folder_.Path("missing/a.tessarin") +
+                                            "' could not be written: No such file or directory");
+    NewDotPlot();
+    fs::permissions(path, fs::perms(0666));
+    fs::permissions(folder_.Path(), fs::perms(0555));
+    {
+        const OrdinaryUser user;  // may write to the file, but make none in its folder
+        platform.dialogs.texts.push_back(path);
+        Choose("FileSaveView");
+    }
+    fs::permissions(folder_.Path(), fs::perms(0755));
+    EXPECT_EQ(platform.dialogs.messages.size(), 1U) << "no box for a missing right";
+    EXPECT_EQ(platform.mainForm.status, "'" + path +
+                                            "' could not be written: Permission denied. "
+                                            "Nothing is autosaved for the rest of this session.");
+    EXPECT_EQ(Bytes(path), saved);
 }
 
 TEST_F(SheetTest, LinesStandInTheirOrder) {

@@ -101,20 +101,24 @@ bool SaveSheet(const PaaIkkuna& main, const std::string& path) {
                     : "the sheet could not be written to " + path + ": " + saved.reason);
 }
 
-std::string SaveFcsOf(const FcsSave& save) {
+std::string SaveFcsOf(PaaIkkuna& main, const FcsSave& save) {
     if (!Ikkunat.Holds(save.window) || !Ikkunat(save.window).Used) {
         return "there is no window " + std::to_string(save.window);
     }
     const int16_t slot = Ikkunat(save.window).FileIndex;
     const std::string obstacle =
         Tiedostot.Holds(slot) ? TallennuksenEste(Tiedostot(slot), save.path) : "";
-    return obstacle.empty() ? KirjoitaFCS(save.path, slot) : obstacle;
+    const std::string failure = obstacle.empty() ? KirjoitaFCS(save.path, slot) : obstacle;
+    if (failure.empty()) {
+        HuomautaTallennuksesta(main, Tiedostot(slot));
+    }
+    return failure;
 }
 
-bool SaveFcs(const CommandLine& line) {
+bool SaveFcs(PaaIkkuna& main, const CommandLine& line) {
     bool all = true;
     for (const FcsSave& save : line.fcs) {
-        all = Told(SaveFcsOf(save)) && all;
+        all = Told(SaveFcsOf(main, save)) && all;
     }
     return all;
 }
@@ -192,7 +196,7 @@ int Run(const CommandLine& line, QtApplication& application) {
     const bool ran = RunTool(main, toolWindow, line);
     const bool chosen = ChooseMenuItems(line);
     const bool sheet = SaveSheet(main, line.sheet);
-    const bool fcs = SaveFcs(line);
+    const bool fcs = SaveFcs(main, line);
     const bool pictured = SaveSnapshot(platform, line.snapshot);
     const bool copied = SaveClipboard(platform, line.clipboard);
     const int status = line.headless ? kDone : platform.Loop().Run();

@@ -30,7 +30,7 @@ void Encode(std::span<const float> values, char* to, std::size_t stride) {
 void WriteEvents(const Tiedosto& file, SafeFile& out) {
     // Small enough that a block's bytes stay near while the columns go into it.
     constexpr std::size_t kBlockBytes = std::size_t{1} << 17U;
-    const auto events = static_cast<std::size_t>(file.EventCount);
+    const auto events = static_cast<std::size_t>(file.EventsFromFile());
     const std::size_t stride = kValueBytes * static_cast<std::size_t>(file.ChannelCount);
     const std::size_t blockEvents = std::max<std::size_t>(1, kBlockBytes / stride);
     std::string block;
@@ -46,7 +46,7 @@ void WriteEvents(const Tiedosto& file, SafeFile& out) {
 }
 
 std::string WriteFile(const std::string& path, const Tiedosto& file) {
-    const uint64_t dataBytes = kValueBytes * static_cast<uint64_t>(file.EventCount) *
+    const uint64_t dataBytes = kValueBytes * static_cast<uint64_t>(file.EventsFromFile()) *
                                static_cast<uint64_t>(file.ChannelCount);
     const auto start = BytesBeforeData(WrittenKeywords(file), dataBytes);
     if (!start) {
@@ -66,6 +66,9 @@ std::string KirjoitaFCS(const std::string& path, int16_t slot) {
     const BusyPointer busy;
     if (!Tiedostot.Holds(slot) || !Tiedostot(slot).Valid || Tiedostot(slot).ChannelCount < 1) {
         return "There is no data file to write";
+    }
+    if (Tiedostot(slot).WholeEvents == 0) {
+        return "No event of the file could be read, so there is nothing to write";
     }
     try {
         return WriteFile(path, Tiedostot(slot));

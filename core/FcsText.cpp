@@ -156,7 +156,7 @@ std::string WrittenKeywords(const Tiedosto& file) {
     keywords.Add("$CYT", std::string(kCytometer) + std::string(ProgramVersionText));
     keywords.Add("$BYTEORD", "4,3,2,1");
     keywords.Add("$DATATYPE", "F");
-    keywords.Add("$TOT", std::to_string(file.EventCount));
+    keywords.Add("$TOT", std::to_string(file.EventsFromFile()));
     keywords.Add("$MODE", "L");
     keywords.Add("$PAR", std::to_string(file.ChannelCount));
     AddChannels(file, keywords);

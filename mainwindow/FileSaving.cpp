@@ -27,16 +27,30 @@ void Write(PaaIkkuna& main, const std::string& path, int16_t slot, const std::st
     const std::string failure = KirjoitaFCS(path, slot);
     if (!failure.empty()) {
         main.Services().dialogs.Message(failure, title);
+    } else {
+        HuomautaTallennuksesta(main, Tiedostot(slot));
     }
 }
 
 // Whether only the first of its events are in memory: overwriting it would lose the others.
 bool IsCutShort(const Tiedosto& file) {
-    const auto total = ParseWholeNumber(HaeAvainsana("\\$TOT", file.Otsikko.Text));
+    if (file.WholeEvents) {
+        return *file.WholeEvents > file.EventCount;
+    }
+    const auto total = ParseNumber(HaeAvainsana("\\$TOT", file.Otsikko.Text));
     return total && *total > file.EventCount;
 }
 
 }  // namespace
+
+void HuomautaTallennuksesta(PaaIkkuna& main, const Tiedosto& file) {
+    const int32_t written = file.EventsFromFile();
+    if (written < file.EventCount) {
+        main.Huomauta("Only the " + std::to_string(written) + " events that '" + file.FileName +
+                      "' holds whole were saved, not the " +
+                      std::to_string(file.EventCount - written) + " made up behind them.");
+    }
+}
 
 std::string TallennuksenEste(const Tiedosto& file, const std::string& path) {
     std::error_code error;

@@ -13,6 +13,10 @@ class PaaIkkuna;
 /// only the first events are loaded is not written over itself, as the others would be lost.
 std::string TallennuksenEste(const Tiedosto& file, const std::string& path);
 
+/// Tells that events were left out of a file just saved, because the reader had made them up; says
+/// nothing of an ordinary file.
+void HuomautaTallennuksesta(PaaIkkuna& main, const Tiedosto& file);
+
 /// "Save FCS as...": asks where and writes the file of the active window there.
 void FileSaveFCS(PaaIkkuna& main);
 

@@ -164,6 +164,31 @@ TEST_F(FcsWriterTest, KeepsRealFilesAsTheyAre) {
     }
 }
 
+TEST_F(FcsWriterTest, WhatTheReaderMadeUpIsNotWritten) {
+    FcsBuilder built("I", 16, "2,1", 2, 3);
+    built.data = "\0\1\0\2\0\3"s;  // one event and a half
+    Tiedosto& file = Tiedostot(1) = Read(built);
+    ASSERT_EQ(file.EventCount, 3);
+    const Tiedosto back = ReadBytes(Write());
+    EXPECT_EQ(back.EventCount, 1);
+    EXPECT_EQ(back.Oddities, "");
+    EXPECT_EQ(back.Data(1, 2), 2);
+    file.EventCount = 0;
+    EXPECT_EQ(ReadBytes(Write()).EventCount, 0);
+
+    const std::string old = folder.Write("old.fcs", "an old file");
+    for (const char* unread :
+         {"$DATATYPE=D", "data begin=99999999", "$TOT=900000;$PAR=1;data begin="}) {
+        FcsBuilder none = built;
+        Tiedostot(1) = Read(none.Change(unread));
+        EXPECT_TRUE(Tiedostot(1).Valid);
+        EXPECT_NE(KirjoitaFCS(old, 1), "") << unread;
+        EXPECT_EQ(Bytes(old), "an old file");
+    }
+    Tiedostot(1) = Read(built.Set("$TOT", "0"));
+    EXPECT_EQ(ReadBytes(Write()).EventCount, 0) << "a file without events can be written";
+}
+
 TEST_F(FcsWriterTest, LeavesTheOldFileWholeWhenItCannotWrite) {
     Put(10000, 2);
     const std::string old = folder.Write("old.fcs", "an old file");

@@ -94,6 +94,17 @@ TEST_F(FileLoadingTest, SavesFcsAndProtectsTheOriginals) {
     EXPECT_EQ(save("FileSaveFCS", folder_.Path("./own.fcs")), "File protection");
     EXPECT_EQ(save("FileSaveFCS", folder_.Path("three.fcs")), "");
     EXPECT_EQ(std::filesystem::file_size(own), 3000U + 5 * 2 * 4);
+
+    std::filesystem::resize_file(own, 3000 + 2 * 2 * 4 + 1);
+    MaxLoadedEvents = 10;
+    Tiedostot(Ikkunat(1).FileIndex) = LueFCS(own);
+    EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "");
+    EXPECT_EQ(LueFCS(own).EventCount, 2) << "the three that were made up are not written";
+    EXPECT_EQ(platform.mainForm.status,
+              "Only the 2 events that 'own.fcs' holds whole were saved, not the 3 made up behind "
+              "them.");
+    Tiedostot(Ikkunat(1).FileIndex).EventCount = 1;
+    EXPECT_EQ(save("FileSaveFCSEiKysymysta", ""), "File protection") << "a whole one is left out";
 }
 
 TEST_F(FileLoadingTest, RefusedFilesChangeNothing) {

@@ -1,8 +1,8 @@
 // Controls beside a picture, or instead of one: what the logic holds of each.
 //
 // A form makes them; the toolkit's own widgets show them, with its keyboard and its words for
-// screen readers. Each has one event, a function that is set by whoever made it and may be empty.
-// What the program sets sends no event. Destroying a control takes it off its form.
+// screen readers. Each event is a function that is set by whoever made the control and may be
+// empty. What the program sets sends no event. Destroying a control takes it off its form.
 #pragma once
 
 #include <functional>
@@ -78,7 +78,8 @@ class TextBox : public Control {
     std::function<void(int row)> onRow;
 };
 
-/// A grid of cells that are read.
+/// A grid of cells that are read. Its user can give columns other widths, which stay when another
+/// table with those columns is shown.
 class Table : public Control {
   public:
     /// Shows another table; the old one is gone.
@@ -90,6 +91,8 @@ class Table : public Control {
     virtual Bitmap Picture() const = 0;
     /// The right button was pressed over it.
     std::function<void()> onRightPress;
+    /// The user has given a column another width.
+    std::function<void()> onColumnWidth;
 };
 
 /// Makes the controls of one form. Tab goes through them in the order of their making.

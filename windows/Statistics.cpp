@@ -20,6 +20,7 @@ Statistics::Statistics(PaaIkkuna& main, StatisticsHost& owner, std::vector<Tilas
       grid_(form_->Controls().MakeTable({"MSFlexGrid1", "Statistics"})) {
     form_->Surface().SetVisible(false);
     grid_->onRightPress = [this] { ShowMenu(); };
+    grid_->onColumnWidth = [this] { FitTo(table_); };
     form_->Show();
     Form_Resize(false);
 }
@@ -106,19 +107,30 @@ void Statistics::Nayta(const std::string& caption, const GridTable& table) {
     FitTo(table);
 }
 
+// The outer width for a table. Columns that the user drew wider or narrower count as they are now,
+// as long as the window does not leave the area for them.
+Twips Statistics::OuterWidthFor(const GridTable& table) const {
+    int32_t twips = kFrameWidth;
+    int own = 1;  // pixels of the columns as they come from the plot
+    for (const Twips column : table.columnWidths) {
+        twips += column.count;
+        own += PixelsFromTwips(column);
+    }
+    const int room = form_->AreaWidth() - PixelsFromTwips(form_->Left()) - PixelsFromTwips({twips});
+    const int widening = table.rows.empty() ? 0 : grid_->NeededWidth() - own;
+    return {twips + TwipsFromPixels(std::min(widening, std::max(0, room))).count};
+}
+
 // The size follows the table, which changes whenever its plot is drawn: that is no reason to bring
 // back a window that the user put away, or to undo the size that he gave it.
 void Statistics::FitTo(const GridTable& table) {
     if (!form_->HasOwnSize()) {
         return;
     }
-    Fit asked{{kFrameWidth},
-              {kGridRowHeight.count * table.Rows() + kFrameHeight},
-              grid_->NeededWidth(),
-              grid_->NeededHeight()};
-    for (const Twips column : table.columnWidths) {
-        asked.width.count += column.count;
-    }
+    const Fit asked{OuterWidthFor(table),
+                    {kGridRowHeight.count * table.Rows() + kFrameHeight},
+                    grid_->NeededWidth(),
+                    grid_->NeededHeight()};
     if (asked == asked_ && form_->OuterWidth() == fittedWidth_ &&
         form_->OuterHeight() == fittedHeight_) {
         return;

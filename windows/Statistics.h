@@ -66,6 +66,7 @@ class Statistics : public WindowObject, public CopySource, private FormEvents {
 
     int HeaderRows() const;
     std::string OneLine(bool heads) const;
+    Twips OuterWidthFor(const GridTable& table) const;
     void FitTo(const GridTable& table);
 
     PaaIkkuna& main_;

@@ -35,6 +35,7 @@ GridWidget::GridWidget(QWidget* parent) : QAbstractScrollArea(parent) {
 }
 
 void GridWidget::SetCells(GridCells cells) {
+    cells.KeepWidths(cells_);
     cells_ = std::move(cells);
     FitScrollBars();
     viewport()->update();
@@ -76,7 +77,10 @@ void GridWidget::paintEvent(QPaintEvent* event) {
 }
 
 void GridWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::RightButton) {
+    if (event->button() == Qt::LeftButton) {
+        const int column = cells_.LineAt(event->pos() - Corner());
+        hold_ = {column, event->pos().x(), column < 0 ? 0 : cells_.ColumnWidth(column)};
+    } else if (event->button() == Qt::RightButton) {
         // Qt sends another event after a right press, to a widget that may be gone when a pop-up
         // menu was waited for in between.
         QTimer::singleShot(0, this, [this] {
@@ -85,6 +89,41 @@ void GridWidget::mousePressEvent(QMouseEvent* event) {
                 told();
             }
         });
+    }
+}
+
+void GridWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        LetGo();  // the button may have come up elsewhere
+        const bool line = cells_.LineAt(event->pos() - Corner()) >= 0;
+        viewport()->setCursor(line ? Qt::SplitHCursor : Qt::ArrowCursor);
+    } else if (hold_.column >= 0 && hold_.column < cells_.Cols()) {
+        DrawLine(event->pos().x());
+    }
+}
+
+// From where it was taken hold of, not from the corner, which moves when the table gets narrower.
+void GridWidget::DrawLine(int mouse) {
+    cells_.SetColumnWidth(hold_.column, hold_.width + mouse - hold_.mouse);
+    FitScrollBars();
+    viewport()->update();
+}
+
+void GridWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        LetGo();
+    }
+}
+
+void GridWidget::LetGo() {
+    const Hold held = std::exchange(hold_, Hold());
+    if (held.column < 0 || held.column >= cells_.Cols() ||
+        cells_.ColumnWidth(held.column) == held.width) {
+        return;
+    }
+    const auto told = onColumnWidth;
+    if (told) {
+        told();
     }
 }
 

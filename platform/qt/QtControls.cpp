@@ -206,10 +206,12 @@ class QtTable : public QtControl<Table, GridWidget> {
   public:
     explicit QtTable(QWidget* parent) : QtControl(new GridWidget(parent)) {
         shown_->onRightPress = [this] { Tell(onRightPress); };
+        shown_->onColumnWidth = [this] { Tell(onColumnWidth); };
     }
     ~QtTable() override {
         if (shown_) {
             shown_->onRightPress = nullptr;
+            shown_->onColumnWidth = nullptr;
         }
     }
     void SetTable(const GridTable& table) override {

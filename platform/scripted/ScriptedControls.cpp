@@ -3,7 +3,7 @@
 namespace tessarin {
 
 int ScriptedTable::NeededWidth() const {
-    int width = table.rows.empty() ? 0 : 1;
+    int width = table.rows.empty() ? 0 : 1 + widened;
     for (const Twips column : table.columnWidths) {
         width += PixelsFromTwips(column);
     }
@@ -12,6 +12,11 @@ int ScriptedTable::NeededWidth() const {
 
 int ScriptedTable::NeededHeight() const {
     return table.rows.empty() ? 0 : table.Rows() * PixelsFromTwips(kGridRowHeight) + 1;
+}
+
+void ScriptedTable::Widen(int pixels) {
+    widened += pixels;
+    onColumnWidth();
 }
 
 Bitmap ScriptedTable::Picture() const {

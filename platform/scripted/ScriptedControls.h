@@ -81,10 +81,14 @@ class ScriptedTable : public ScriptedControl<Table> {
     /// As many pixels as the table has cells, so that a test can tell tables apart.
     Bitmap Picture() const override;
 
+    /// The user draws columns wider by that many pixels in all.
+    void Widen(int pixels);
+
     /// The row whose first cell reads so; the test fails when there is none.
     const std::vector<std::string>& Row(const std::string& head) const;
 
     GridTable table;
+    int widened = 0;
 };
 
 /// The controls of one form, by name.

@@ -222,6 +222,22 @@ TEST_F(StatisticsTest, OpensClosesAndIsCopied) {
     EXPECT_FALSE(IkkunatStat(1).Used);
 }
 
+TEST_F(StatisticsTest, TheWindowFollowsColumnsThatAreDrawnWider) {
+    Open({{"a", false, 1000, {1}}, {"b", false, 1000, {2}}});
+    ScriptedTable& grid = OpenStatistics();
+    ScriptedForm& window = *TableForms()[0];
+    const Twips width = window.width;
+    const auto wider = [&] { return PixelsFromTwips(window.width) - PixelsFromTwips(width); };
+    grid.Widen(60);
+    EXPECT_EQ(wider(), 60);
+    main.PiirraKaikki();
+    EXPECT_EQ(wider(), 60);
+    grid.Widen(-75);
+    EXPECT_EQ(wider(), -15);
+    grid.Widen(5000);
+    EXPECT_EQ(PixelsFromTwips(window.left) + PixelsFromTwips(window.width), window.AreaWidth());
+}
+
 TEST_F(StatisticsTest, SavesEventsAsText) {
     FastDrawLimit = 1;
     ScriptedForm& form =

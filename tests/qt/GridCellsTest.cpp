@@ -67,6 +67,68 @@ TEST(GridCellsTest, OnlyEqualNeighboursOfAMergedRowAreOne) {
     EXPECT_EQ(Cells(table, 5), (Log{"5 @ 1 99", "5 @ 101 163", "5 @ 165 227"}));
 }
 
+TEST(GridCellsTest, NumbersStandToTheRight) {
+    const GridTable table = ThreeColumns({{{"7", "12.5", "X mean"}},
+                                          {{"File name", "60909", "60909"}, true},
+                                          {{"Poly-1", "-1.5E-20", "NaN"}},
+                                          {{"", "5 %", ""}}});
+    std::string numbers;
+    for (int row = 0; row < table.Rows(); ++row) {
+        for (const SeenCell& cell : GridCells(table).Row(row)) {
+            numbers += cell.number ? "n" : "t";
+        }
+        numbers += " ";
+    }
+    EXPECT_EQ(numbers, "tnt tt tnn ttt ") << "names and merged cells never are";
+    for (const double ratio : {1.0, 1.5, 2.0}) {
+        const Bitmap picture = GridCells(table).Picture(ratio);
+        EXPECT_TRUE(IsBlank(picture, QRect(103, 2, 20, 13)));
+        EXPECT_FALSE(IsBlank(picture, QRect(140, 2, 21, 13)));
+        EXPECT_FALSE(IsBlank(picture, QRect(2, 2, 20, 13)));
+        EXPECT_TRUE(IsBlank(picture, QRect(40, 2, 58, 13)));
+        EXPECT_FALSE(IsBlank(picture, QRect(167, 2, 20, 13))) << "a head is no number";
+    }
+}
+
+TEST(GridCellsTest, LinesCanBeTakenHoldOfWhereTheyAreDrawn) {
+    const GridCells cells(
+        ThreeColumns({{{"File name", "a.fcs", "a.fcs"}, true}, {{"", "Number", "% of vis"}}}));
+    for (const int row : {8, 24, 32}) {
+        EXPECT_EQ(cells.LineAt({99, row}), 0);
+        EXPECT_EQ(cells.LineAt({103, row}), 0);
+        EXPECT_EQ(cells.LineAt({104, row}), -1);
+        EXPECT_EQ(cells.LineAt({228, row}), 2);
+    }
+    EXPECT_EQ(cells.LineAt({164, 8}), -1) << "no line through a merged cell";
+    EXPECT_EQ(cells.LineAt({164, 24}), 1);
+    EXPECT_EQ(cells.LineAt({100, -1}), -1);
+    EXPECT_EQ(cells.LineAt({100, 33}), -1);
+}
+
+TEST(GridCellsTest, AWidthThatTheUserGaveStaysWithItsColumn) {
+    const GridTable three = ThreeColumns({{{"", "Number", "X mean"}}, {{"Visible", "5", "7"}}});
+    GridCells before(three);
+    before.SetColumnWidth(0, 180);
+    before.SetColumnWidth(2, 90);
+    EXPECT_EQ(before.Size().width(), 180 + 64 + 90 + 1);
+    EXPECT_EQ(before.Row(1)[2].place, QRect(245, 17, 89, 15));
+    before.SetColumnWidth(1, -500);
+    EXPECT_EQ(before.ColumnWidth(1), 16) << "it can be taken hold of again";
+    before.SetColumnWidth(1, 64);
+
+    GridCells same(ThreeColumns({{{"File name", "5", "5"}, true}, {{"FAST DRAW", "a", "b"}}}));
+    same.KeepWidths(before);
+    EXPECT_EQ(same.Size(), QSize(335, 33));
+    GridCells fewer(TwoColumns({{{"", "X mean"}}}));
+    fewer.KeepWidths(same);
+    fewer.KeepWidths(before);
+    EXPECT_EQ(fewer.ColumnWidth(0), 180);
+    EXPECT_EQ(fewer.ColumnWidth(1), 90) << "the column that was the third";
+    GridCells none;
+    none.KeepWidths(before);
+    EXPECT_TRUE(none.Size().isEmpty());
+}
+
 TEST(GridCellsTest, NamesAreShownAsTheyAreInOneLine) {
     const GridTable table =
         TwoColumns({{{"<b>R&D</b> &x", "\xc3\xa4\xc3\xb6"}}, {{"a\tb\r\nc", "a  b"}}});

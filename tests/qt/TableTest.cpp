@@ -47,6 +47,12 @@ class TableTest : public WindowTest {
     }
     GridWidget& Grid(int place) { return *Shown(place).findChild<GridWidget*>("grid"); }
     QWidget& Cells(int place) { return *Grid(place).viewport(); }
+    // A move with the left button down, or without any.
+    void MoveMouse(QPoint place, Qt::MouseButtons buttons) {
+        QMouseEvent move(QEvent::MouseMove, place, Cells(0).mapToGlobal(place), Qt::NoButton,
+                         buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(&Cells(0), &move);
+    }
     void RightClick(QWidget& widget, QPoint place) { Click(widget, place, {}, Qt::RightButton); }
 
     // What the window shows of the table, and the same part of its picture.
@@ -162,6 +168,43 @@ TEST_F(TableTest, ScrollingReachesEveryPartOfTheTable) {
     LetEventsRun();
     EXPECT_EQ(Grid(0).Corner().y(), 0);
     ExpectShownPart(Grid(0), grid.table->Picture());
+}
+
+TEST_F(TableTest, AColumnIsDrawnWiderByTheLineBehindIt) {
+    const auto grid = MakeGrid("G");
+    int told = 0;
+    grid.table->onColumnWidth = [&told] { ++told; };
+    MoveMouse({60, 24}, Qt::NoButton);
+    EXPECT_EQ(Cells(0).cursor().shape(), Qt::ArrowCursor);
+    MoveMouse({101, 24}, Qt::NoButton);
+    EXPECT_EQ(Cells(0).cursor().shape(), Qt::SplitHCursor);
+    QTest::mousePress(&Cells(0), Qt::LeftButton, {}, {101, 24});
+    MoveMouse({131, 60}, Qt::LeftButton);
+    EXPECT_EQ(grid.table->NeededWidth(), 229 + 30);
+    EXPECT_EQ(told, 0) << "while the line is held";
+    MoveMouse({151, 60}, Qt::LeftButton);
+    QTest::mouseRelease(&Cells(0), Qt::LeftButton, {}, {151, 60});
+    EXPECT_EQ(told, 1);
+    MoveMouse({200, 60}, Qt::NoButton);
+    EXPECT_EQ(grid.table->NeededWidth(), 229 + 50);
+    grid.table->SetTable(MakeTable(7));
+    EXPECT_EQ(grid.table->NeededWidth(), 229 + 50) << "it stays while the table is filled again";
+    ExpectShownPart(Grid(0), grid.table->Picture());
+
+    // A click on a line changes nothing; a button that came up elsewhere lets go.
+    QTest::mouseClick(&Cells(0), Qt::LeftButton, {}, {151, 24});
+    QTest::mousePress(&Cells(0), Qt::LeftButton, {}, {151, 24});
+    MoveMouse({141, 24}, Qt::LeftButton);
+    MoveMouse({161, 24}, Qt::NoButton);
+    QTest::mouseRelease(&Cells(0), Qt::LeftButton, {}, {161, 24});
+    EXPECT_EQ(grid.table->NeededWidth(), 229 + 40);
+    EXPECT_EQ(told, 2);
+
+    QTest::mousePress(&Cells(0), Qt::LeftButton, {}, {141, 24});
+    grid.table->SetTable(GridTable{});  // a tool fills it with the line in hand
+    MoveMouse({161, 24}, Qt::LeftButton);
+    QTest::mouseRelease(&Cells(0), Qt::LeftButton, {}, {161, 24});
+    EXPECT_EQ(told, 2);
 }
 
 TEST_F(TableTest, ThePictureNeedsNoWindowOnTheScreen) {

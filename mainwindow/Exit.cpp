@@ -30,7 +30,8 @@ bool FileExit(PaaIkkuna& main) {
         return true;
     }
     if (!main.Services().dialogs.Ask("Do you really want to exit? All unsaved data will be lost.",
-                                     "Exit the program", QuestionButtons::kOkCancel)) {
+                                     "Exit the program", QuestionButtons::kOkCancel,
+                                     SafeAnswer::kNo)) {
         return false;
     }
     Closing = true;

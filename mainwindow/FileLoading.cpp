@@ -159,7 +159,8 @@ std::vector<int16_t> SelectedWindows() {
     return selected;
 }
 
-void Open(PaaIkkuna& main, const FileQuestion& question, LukuTapa way) {
+void Open(PaaIkkuna& main, FileQuestion question, LukuTapa way) {
+    question.folder = main.AktiivinenKansio();
     const std::string path = main.Services().dialogs.OpenFile(question);
     if (path.empty()) {
         EndOpening(main);

@@ -68,7 +68,9 @@ void FileSaveFCS(PaaIkkuna& main) {
         return;
     }
     const std::string path =
-        KysyTallennuspaikka(main.Services().dialogs, {"Save as FCS file", "FCS files (*.*)|*.*"});
+        KysyTallennuspaikka(main.Services().dialogs, {.title = "Save as FCS file",
+                                                      .filter = "FCS files (*.*)|*.*",
+                                                      .folder = Tiedostot(slot).Folder});
     if (!path.empty()) {
         Write(main, path, slot, "Save as FCS file");
     }

@@ -91,9 +91,16 @@ bool PaaIkkuna::LataaNakyma(const std::string& path) {
     return companions_.views != nullptr && companions_.views->LataaNakyma(path);
 }
 
+std::string PaaIkkuna::AktiivinenKansio() const {
+    const int16_t slot = Ikkunat.Holds(ActiveWindow) ? Ikkunat(ActiveWindow).FileIndex : int16_t{0};
+    return Tiedostot.Holds(slot) ? Tiedostot(slot).Folder : "";
+}
+
 void PaaIkkuna::OpenView() {
-    const std::string path = platform_.dialogs.OpenFile(
-        {"Open analysis file", "Tessarin files (*.Tessarin)|*.tessarin"});
+    const std::string path =
+        platform_.dialogs.OpenFile({.title = "Open analysis file",
+                                    .filter = "Tessarin files (*.Tessarin)|*.tessarin",
+                                    .folder = AktiivinenKansio()});
     if (!path.empty()) {
         LataaNakyma(path);
     }

@@ -68,6 +68,9 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     /// `PaivitaKomennot` means update the commands: items whose commands cannot be chosen now are
     /// disabled.
     void PaivitaKomennot();
+    /// `AktiivinenKansio` means active folder: where the file of the active window lies; empty when
+    /// there is none. File dialogs start there.
+    std::string AktiivinenKansio() const;
     /// Tells whoever listens that a window became the active one or took another file.
     void KerroIkkunasta(int16_t window);
     /// The mouse is over an analysis window: the side panel closes.

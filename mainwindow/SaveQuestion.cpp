@@ -16,7 +16,7 @@ bool SaakoKorvata(Dialogs& dialogs, const std::string& path) {
     std::error_code error;
     return !std::filesystem::exists(path, error) ||
            dialogs.Ask("File already exists. Do you want to overwrite it?", "File already exists",
-                       QuestionButtons::kOkCancel);
+                       QuestionButtons::kOkCancel, SafeAnswer::kNo);
 }
 
 }  // namespace tessarin

@@ -124,7 +124,9 @@ std::vector<WindowMenuItem> DotPlot::Items() {
 
 void DotPlot::SaveData() {
     const std::string path = KysyTallennuspaikka(
-        Main().Services().dialogs, {"Save the data", "TXT files (tab delimited) (*.TXT)|*.txt"});
+        Main().Services().dialogs, {.title = "Save the data",
+                                    .filter = "TXT files (tab delimited) (*.TXT)|*.txt",
+                                    .folder = File()->Folder});
     if (path.empty()) {
         return;
     }

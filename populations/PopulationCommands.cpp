@@ -56,7 +56,7 @@ void PopulationCommands::LuoUusiRegion() {
     UusiRegionPaalla =
         !Populaatiot(panel_.ValittuPopulaatio()).Defined ||
         dialogs_.Ask("Population has been already defined. Do you want to re-define it?",
-                     "Population already defined", QuestionButtons::kOkCancel);
+                     "Population already defined", QuestionButtons::kOkCancel, SafeAnswer::kNo);
     view_.PiirtoMuuttui();
 }
 
@@ -80,7 +80,7 @@ void PopulationCommands::PoistaRegion() {
     const int16_t slot = panel_.ValittuPopulaatio();
     if (!Populaatiot(slot).Defined ||
         !dialogs_.Ask("Do you really want to delete the selected population?", "Delete population",
-                      QuestionButtons::kOkCancel)) {
+                      QuestionButtons::kOkCancel, SafeAnswer::kNo)) {
         return;
     }
     Populaatiot(slot).Defined = false;
@@ -100,7 +100,7 @@ void PopulationCommands::LuoUusiMaaritelma() {
     Populaatio& definition = Populaatiot(slot);
     if (definition.Defined &&
         !dialogs_.Ask("The definition has been already defined. To you want to re-define it?",
-                      "Definition already defined", QuestionButtons::kOkCancel)) {
+                      "Definition already defined", QuestionButtons::kOkCancel, SafeAnswer::kNo)) {
         return;
     }
     std::string expression = definition.Defined ? definition.Name : "";
@@ -129,8 +129,9 @@ void PopulationCommands::LuoUusiMaaritelma() {
 
 void PopulationCommands::PoistaMaaritelma() {
     Populaatio& definition = Populaatiot(panel_.ValittuMaaritelma());
-    if (definition.Defined && dialogs_.Ask("Do you really want to delete the definition?",
-                                           "Delete definition", QuestionButtons::kOkCancel)) {
+    if (definition.Defined &&
+        dialogs_.Ask("Do you really want to delete the definition?", "Delete definition",
+                     QuestionButtons::kOkCancel, SafeAnswer::kNo)) {
         definition.Defined = false;
         definition.Name.clear();
         ShowChange();

@@ -46,9 +46,11 @@ void SheetStore::TalletaNakyma(std::string_view mode) {
 }
 
 void SheetStore::AskAndSave(NakymaLaji kind) {
-    const std::string path =
-        KysyTallennuspaikka(main_.Services().dialogs,
-                            {kTitle, "Tessarin files (*.Tessarin)|*.tessarin", "", ".tessarin"});
+    const std::string path = KysyTallennuspaikka(
+        main_.Services().dialogs, {.title = kTitle,
+                                   .filter = "Tessarin files (*.Tessarin)|*.tessarin",
+                                   .ending = ".tessarin",
+                                   .folder = main_.AktiivinenKansio()});
     if (path.empty()) {
         return;
     }

@@ -43,7 +43,10 @@ WindowMenuItem FrameWindow::SaveImageItem(std::string_view caption) {
 
 void FrameWindow::SaveImage() {
     const std::string path = KysyTallennuspaikka(
-        main_.Services().dialogs, {"Save the image", std::string(kind_.imageFilter)});
+        main_.Services().dialogs,
+        {.title = "Save the image",
+         .filter = std::string(kind_.imageFilter),
+         .folder = File() != nullptr ? File()->Folder : main_.AktiivinenKansio()});
     if (path.empty()) {
         return;
     }

@@ -1,6 +1,7 @@
 // The dialogs on the screen, in front of the main window.
 #pragma once
 
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QString>
 #include <QWidget>
@@ -15,25 +16,28 @@ class QtDialogs : public Dialogs {
 
     ExtraButton SetExtraButton(ExtraButton button) override;
     void Message(std::string_view text, std::string_view title) override;
-    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) override;
+    using Dialogs::Ask;
+    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons,
+             SafeAnswer safe) override;
     std::string Input(std::string_view prompt, std::string_view title,
                       std::string_view preset) override;
     std::string OpenFile(const FileQuestion& question) override;
     std::string SaveFile(const FileQuestion& question) override;
+    std::string ChooseFolder(std::string_view title, std::string_view start) override;
     std::optional<Rgb> ChooseColor(Rgb current) override;
 
   private:
-    /// Where a file dialog starts: the folder of the last answer, unless the name has its own.
-    QString Start(const std::string& presetName) const;
-    std::string Chosen(const QString& path);
+    /// What was chosen in it; empty for Cancel. It starts in that folder when there is one of that
+    /// name, else in the one of the last answer.
+    QString Chosen(QFileDialog& dialog, const QString& folder) const;
+    std::string AskFile(const FileQuestion& question, QFileDialog::AcceptMode mode);
 
     /// The button that was pressed; NoButton for the extra one.
-    QMessageBox::StandardButton Box(QMessageBox::Icon icon, std::string_view text,
-                                    std::string_view title, QMessageBox::StandardButtons buttons);
+    QMessageBox::StandardButton Shown(QMessageBox& box);
 
     QWidget& parent_;
     ExtraButton extra_;
-    QString folder_;
+    QString folder_;  // of the last answer
 };
 
 }  // namespace tessarin

@@ -25,7 +25,8 @@ void ScriptedDialogs::Message(std::string_view text, std::string_view title) {
 }
 
 bool ScriptedDialogs::Ask(std::string_view text, std::string_view title,
-                          QuestionButtons /*buttons*/) {
+                          QuestionButtons /*buttons*/, SafeAnswer safe) {
+    lastSafe = safe;
     questions.push_back({std::string(text), std::string(title), extra_.caption});
     if (PressExtra()) {
         return false;
@@ -58,11 +59,18 @@ std::string ScriptedDialogs::Input(std::string_view prompt, std::string_view tit
 }
 
 std::string ScriptedDialogs::OpenFile(const FileQuestion& question) {
+    lastFolder = question.folder;
     return NextText(question.filter, question.title, question.presetName);
 }
 
 std::string ScriptedDialogs::SaveFile(const FileQuestion& question) {
+    lastFolder = question.folder;
     return NextText(question.filter, question.title, question.presetName);
+}
+
+std::string ScriptedDialogs::ChooseFolder(std::string_view title, std::string_view start) {
+    lastFolder = start;
+    return NextText("", title, "");
 }
 
 std::optional<Rgb> ScriptedDialogs::ChooseColor(Rgb /*current*/) {

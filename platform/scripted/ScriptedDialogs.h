@@ -26,12 +26,15 @@ class ScriptedDialogs : public Dialogs {
     ExtraButton SetExtraButton(ExtraButton button) override;
     void Message(std::string_view text, std::string_view title) override;
     /// Takes the next of `answers`; OK or Yes when there is none.
-    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons) override;
+    using Dialogs::Ask;
+    bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons,
+             SafeAnswer safe) override;
     /// These take the next of `texts`; empty, as for Cancel, when there is none.
     std::string Input(std::string_view prompt, std::string_view title,
                       std::string_view preset) override;
     std::string OpenFile(const FileQuestion& question) override;
     std::string SaveFile(const FileQuestion& question) override;
+    std::string ChooseFolder(std::string_view title, std::string_view start) override;
     /// Takes the next of `colors`; Cancel when there is none.
     std::optional<Rgb> ChooseColor(Rgb current) override;
 
@@ -43,6 +46,8 @@ class ScriptedDialogs : public Dialogs {
     std::vector<Shown> messages;
     std::vector<Shown> questions;  ///< of any kind: text or filter, and title
     std::string lastPreset;        ///< what the last input box or file dialog started with
+    std::string lastFolder;        ///< where the last file or folder dialog started
+    SafeAnswer lastSafe = SafeAnswer::kYes;
 
   private:
     std::string NextText(std::string_view text, std::string_view title, std::string_view preset);

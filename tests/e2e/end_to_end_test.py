@@ -119,7 +119,7 @@ class EndToEnd(unittest.TestCase):
         desktop.until(lambda: not desktop.windows("Exit the program"), "the question to go")
         self.assertIsNone(self.program.poll())
         desktop.do("windowfocus", "--sync", self.main)
-        self.exit_by_menu("Return")
+        self.exit_by_menu("alt+o")
         _, complaints = self.program.communicate(timeout=20)
         self.assertEqual((self.program.returncode, complaints.decode()), (0, ""))
 
@@ -171,7 +171,7 @@ class EndToEnd(unittest.TestCase):
         desktop.key("Return")  # Yes
         desktop.until(lambda: self.count(0xFF0000, second) > 10, "the histogram again")
         self.main = desktop.wait_for_window("Tessarin v. 1.2.1")
-        self.exit_by_menu("Return")
+        self.exit_by_menu("alt+o")
         self.assertEqual(self.program.wait(timeout=20), 0)
         self.assertFalse(os.path.exists(autosave))
 
@@ -212,7 +212,7 @@ class EndToEnd(unittest.TestCase):
         self.desktop.until(lambda: self.count(BACKGROUND, stop) > 9500, "its end")
         self.assertTrue(os.path.exists(report))
         self.assertEqual(os.path.getsize(report), 0)
-        self.exit_by_menu("Return")
+        self.exit_by_menu("alt+o")
         self.assertEqual(self.program.wait(timeout=20), 0)
 
     def exit_by_menu(self, answer):

@@ -172,6 +172,28 @@ TEST_F(FileLoadingTest, NewFilesGetTheirMembersAndOddOnesAWord) {
     EXPECT_TRUE(platform.mainForm.status.starts_with("odd2.fcs: "));
 }
 
+TEST_F(FileLoadingTest, FileDialogsStartAtTheFileOfTheActiveWindow) {
+    const auto start = [this](const std::string& command) {
+        platform.dialogs.lastFolder = "none asked";
+        platform.dialogs.texts.clear();
+        Choose(command);
+        return platform.dialogs.lastFolder;
+    };
+    EXPECT_EQ(start("FileOpenFCS"), "");
+    OpenFcs(Write("a.fcs"));
+    NewDotPlot();
+    for (const char* command : {"FileOpenFCS", "FileOpenTXT", "FileSaveFCS", "FileOpenView"}) {
+        EXPECT_EQ(start(command), folder_.Path()) << command;
+    }
+    ChoosePopup(LastForm(), 10);
+    EXPECT_EQ(platform.dialogs.lastFolder, folder_.Path());
+    platform.dialogs.texts = {folder_.Path("a.fcs")};
+    Choose("FileSaveFCS");
+    EXPECT_EQ(platform.dialogs.lastSafe, SafeAnswer::kNo) << "Enter must overwrite nothing";
+    Ikkunat(2).FileIndex = 0;
+    EXPECT_EQ(start("FileOpenFCS"), "");
+}
+
 TEST_F(FileLoadingTest, StepsThroughTheFolderWithoutGoingRound) {
     for (int i = 1; i <= 4; ++i) {
         Write("tube" + std::to_string(i), i);

@@ -1,10 +1,15 @@
 // Dialogs, pop-up menus and the About box, with a user played by a timer.
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "platform/qt/FileFilter.h"
@@ -109,6 +114,87 @@ TEST_F(DialogsTest, LineEndsOfAnyKindShow) {
         box.reject();
     });
     Asked().Message("one\rtwo", "Message");
+}
+
+TEST_F(DialogsTest, EnterGivesTheSafeAnswer) {
+    for (const SafeAnswer safe : {SafeAnswer::kNo, SafeAnswer::kYes}) {
+        for (const QuestionButtons buttons :
+             {QuestionButtons::kOkCancel, QuestionButtons::kYesNo}) {
+            WhenUp<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+            EXPECT_EQ(Asked().Ask("Overwrite?", "Save", buttons, safe), safe == SafeAnswer::kYes);
+        }
+    }
+}
+
+TEST_F(DialogsTest, EveryBoxHasATitle) {
+    QStringList titles;
+    const auto close = [&titles] {
+        WhenUp<QDialog>([&titles](QDialog& box) {
+            titles.append(box.windowTitle());
+            box.reject();
+        });
+    };
+    for (const char* title : {"", "Load error"}) {
+        close();
+        Asked().Message("text", title);
+        close();
+        Asked().Ask("text", title, QuestionButtons::kYesNo);
+        close();
+        Asked().Input("text", title, "");
+    }
+    EXPECT_EQ(titles, (QStringList{"Tessarin", "Tessarin", "Tessarin", "Load error", "Load error",
+                                   "Load error"}));
+}
+
+TEST_F(DialogsTest, FileDialogsStartWhereTheyAreTold) {
+    const QTemporaryDir folder;
+    const QString path = folder.path() + "/";
+    QDir(path).mkdir("data");
+    QFile(path + "data/a very long name of a tube of the second day.fcs")
+        .open(QIODevice::WriteOnly);
+    const std::string data = (path + "data/").toStdString();
+    QStringList started;
+    const auto answer = [&](const QString& name) {
+        WhenUp<QFileDialog>([&started, name](QFileDialog& dialog) {
+            started.append(dialog.directory().dirName());
+            if (name.isEmpty()) {
+                dialog.reject();
+                return;
+            }
+            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            static_cast<QDialog&>(dialog).accept();
+        });
+    };
+    FileQuestion question{"Open FCS file", "FCS files (*.*)|*.*"};
+    question.folder = data;
+    answer("a very long name of a tube of the second day.fcs");
+    EXPECT_EQ(Asked().OpenFile(question),
+              data + "a very long name of a tube of the second day.fcs");
+    question.folder = "/no such folder/";
+    answer("");
+    EXPECT_EQ(Asked().OpenFile(question), "");
+    question.folder = path.toStdString();
+    question.presetName = "new.fcs";
+    answer("other.fcs");
+    EXPECT_EQ(Asked().SaveFile(question), path.toStdString() + "other.fcs");
+    question.presetName = data + "new.fcs";
+    answer("");
+    EXPECT_EQ(Asked().SaveFile(question), "");
+    EXPECT_EQ(started, (QStringList{"data", "data", QDir(path).dirName(), "data"}))
+        << "where told, else where the last answer lies";
+}
+
+TEST_F(DialogsTest, AFolderIsChosenByADialogOfItsOwn) {
+    const QTemporaryDir folder;
+    const std::string path = folder.path().toStdString() + "/";
+    WhenUp<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Choose a folder");
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(Asked().ChooseFolder("Choose a folder", path), path);
+    WhenUp<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(Asked().ChooseFolder("Choose a folder", path), "");
 }
 
 TEST_F(DialogsTest, InputGivesTheTextOrNothing) {

@@ -50,10 +50,11 @@ void TakeOptions(const CommandLine& line) {
 }
 
 void OpenFiles(PaaIkkuna& main, const CommandLine& line) {
+    std::vector<std::string> paths;
     for (const std::string& file : line.files) {
-        const std::string path = std::filesystem::absolute(file).lexically_normal().string();
-        main.AvaaTiedosto(path);
+        paths.push_back(std::filesystem::absolute(file).lexically_normal().string());
     }
+    main.AvaaTiedostot(paths);
 }
 
 bool Told(const std::string& failure) {

@@ -47,6 +47,7 @@ using Step = bool (*)(PaaIkkuna&, int16_t);
 // `isLast` tells whether there is nothing behind a place; the user then hears `word`.
 template <class IsLast>
 void StepSelected(PaaIkkuna& main, Step step, IsLast isLast, const char* word) {
+    const StatusRemarks::Opening opening(main.Huomautukset());
     bool atEnd = false;
     for (int16_t window = 1; window <= MaxWindows; ++window) {
         if (HasFile(window) && Ikkunat(window).Selected) {

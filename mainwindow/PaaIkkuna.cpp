@@ -12,21 +12,13 @@
 #include "mainwindow/WindowRegistry.h"
 
 namespace tessarin {
-namespace {
-
-// Empty when the slot is none, or nothing is odd about its file.
-std::string OddityOf(int16_t slot) {
-    const bool odd = Tiedostot.Holds(slot) && !Tiedostot(slot).Oddities.empty();
-    return odd ? Tiedostot(slot).FileName + ": " + Tiedostot(slot).Oddities : "";
-}
-
-}  // namespace
 
 PaaIkkuna::PaaIkkuna(const Platform& platform)
     : platform_(platform),
       panel_(platform.mainForm),
       populations_(platform.mainForm),
-      panelCommands_(platform.dialogs, populations_, *this) {
+      panelCommands_(platform.dialogs, populations_, *this),
+      remarks_(platform.mainForm) {
     LisaaOmatKomennot(commands_);
     NaytaTiimalasi = [this](bool busy) {
         platform_.pointer.SetPointer(busy ? MousePointer::kHourglass : MousePointer::kNormal);
@@ -107,45 +99,29 @@ void PaaIkkuna::OpenView() {
 }
 
 void PaaIkkuna::HuomautaTiedostosta(int16_t slot) {
-    Huomauta(OddityOf(slot));
-    remarkIsOfFile_ = true;
-}
-
-void PaaIkkuna::MuistutaTiedostosta(int16_t slot) {
-    const std::string oddity = OddityOf(slot);
-    if (remarkIsOfFile_ || !oddity.empty()) {
-        NaytaHuomautus(oddity);
-        remarkIsOfFile_ = true;
-    }
+    remarks_.FileRead(slot);
+    TellRemark(FileOddity(slot));
 }
 
 void PaaIkkuna::Huomauta(const std::string& remark) {
-    remarkIsOfFile_ = false;
     tellsOfDrawing_ = false;
-    NaytaHuomautus(remark);
+    remarks_.Show(remark);
+    TellRemark(remark);
+}
+
+void PaaIkkuna::TellRemark(const std::string& remark) {
     if (onRemark && !remark.empty()) {
         onRemark(remark);
     }
 }
 
-void PaaIkkuna::NaytaHuomautus(const std::string& remark) {
-    remark_ = remark;
-    const bool both = !progress_.empty() && !remark_.empty();
-    platform_.mainForm.SetStatus(progress_ + (both ? "; " : "") + remark_);
-}
-
-void PaaIkkuna::Edistyma(const std::string& progress) {
-    progress_ = progress;
-    NaytaHuomautus(remark_);
-}
-
 void PaaIkkuna::PiirtoMuuttui() {
     populations_.PaivitaNapit();
     if (UusiRegionPaalla) {
-        NaytaHuomautus(
+        remarks_.Show(
             "Click the corners; right click closes; Esc cancels. In a histogram drag a marker.");
     } else if (tellsOfDrawing_) {
-        NaytaHuomautus("");
+        remarks_.Show("");
     }
     tellsOfDrawing_ = UusiRegionPaalla;
 }
@@ -225,7 +201,15 @@ void PaaIkkuna::AvaaTiedosto(const std::string& path) {
     }
 }
 
+void PaaIkkuna::AvaaTiedostot(const std::vector<std::string>& paths) {
+    const StatusRemarks::Opening opening(remarks_);
+    for (const std::string& path : paths) {
+        AvaaTiedosto(path);
+    }
+}
+
 void PaaIkkuna::FilesDropped(const std::vector<std::string>& paths) {
+    const StatusRemarks::Opening opening(remarks_);
     // The first goes where "Open FCS..." would put it; the others would only replace it there.
     bool first = true;
     for (const std::string& path : paths) {

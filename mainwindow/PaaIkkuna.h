@@ -11,6 +11,7 @@
 #include "mainwindow/Companions.h"
 #include "mainwindow/CopySource.h"
 #include "mainwindow/SlidingPanel.h"
+#include "mainwindow/StatusRemarks.h"
 #include "platform/Services.h"
 #include "populations/PopulationCommands.h"
 #include "populations/PopulationPanel.h"
@@ -49,17 +50,16 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void OpenView();
     /// Opens a file by its ending: a sheet replaces the session, data come in a new dot plot.
     void AvaaTiedosto(const std::string& path);
+    /// Opens several so, one after the other.
+    void AvaaTiedostot(const std::vector<std::string>& paths);
     /// `Huomauta` means remark: one line for the status bar; empty clears it.
     void Huomauta(const std::string& remark) override;
-    /// `Edistyma` means progress: how far a long run is. It stands in the status bar in front of
-    /// any remark until it is empty again.
-    void Edistyma(const std::string& progress);
-    /// Remarks what is odd about the file that was just read; clears the line when nothing is.
+    /// Remarks what is odd about the file that was just read.
     void HuomautaTiedostosta(int16_t slot);
-    /// `Muistuta` means remind: the active window shows that file. What is odd about it stands in
-    /// the status bar again, in place of what is odd about another file. Any other remark gives way
-    /// only to an odd file.
-    void MuistutaTiedostosta(int16_t slot);
+    /// `Muistuta` means remind: the active window shows that file.
+    void MuistutaTiedostosta(int16_t slot) { remarks_.FileActive(slot); }
+    /// `Huomautukset` means remarks: what stands in the status bar.
+    StatusRemarks& Huomautukset() { return remarks_; }
     /// `PiirtoMuuttui` means the drawing changed: while a region is armed, "Create" looks pressed
     /// and the status bar says what to do.
     void PiirtoMuuttui() override;
@@ -109,10 +109,9 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     void FilesDropped(const std::vector<std::string>& paths) override;
 
   private:
-    /// What the status bar says from now on, besides how far a run is.
-    void NaytaHuomautus(const std::string& remark);
     std::vector<std::string> ToolNames() const;
     void RunTool(std::string_view command);
+    void TellRemark(const std::string& remark);
 
     Platform platform_;
     Companions companions_;
@@ -121,10 +120,8 @@ class PaaIkkuna : public MainFormEvents, public SessionView {
     PopulationPanel populations_;
     PopulationCommands panelCommands_;
     CopySource* kopioitava_ = nullptr;
-    std::string remark_;           // what the status bar says
-    std::string progress_;         // in front of that, while a run goes on
-    bool remarkIsOfFile_ = false;  // the status bar tells of a file
-    bool tellsOfDrawing_ = false;  // it tells how to draw a region
+    bool tellsOfDrawing_ = false;  // the status bar tells how to draw a region
+    StatusRemarks remarks_;
 };
 
 }  // namespace tessarin

@@ -31,6 +31,12 @@ enum class PanelButton {
     kPoistaMaaritelma,   ///< "Delete", definitions
 };
 
+/// What the lines in the status bar are.
+enum class StatusKind {
+    kRemark,
+    kOddFiles,  ///< what is odd about files: numbers drawn from them may be wrong
+};
+
 /// What the main window tells the program.
 class MainFormEvents {
   public:
@@ -72,8 +78,9 @@ class MainForm {
     virtual void SetItemEnabled(std::string_view command, bool enabled) = 0;
     virtual void SetItemChecked(std::string_view command, bool checked) = 0;
 
-    /// One line of text at the lower edge, until the next; empty clears it.
-    virtual void SetStatus(std::string_view text) = 0;
+    /// What stands at the lower edge until the next: the last of the lines, and how many there are.
+    /// The user can have all of them shown. No line clears it.
+    virtual void SetStatus(std::span<const std::string> lines, StatusKind kind) = 0;
 
     virtual void SetPanelWidth(Twips width) = 0;
     /// The first `populations` rows stand in the frame "Populations", the others in "Definitions".

@@ -234,6 +234,7 @@ bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
     }
     SheetLoader loader(main, sheet);
     {
+        const StatusRemarks::Opening opening(main.Huomautukset());
         const BusyPointer busy;
         const LoadingFlag loading;
         EmptySession();

@@ -88,7 +88,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     }
     CloseReport();
     SkriptiKaynnissa = false;
-    main_.Edistyma("");
+    main_.Huomautukset().Edistyma("");
     DrawPutOff();
     return !aborted_;
 }
@@ -197,7 +197,7 @@ void ToolRun::Edisty(const SkriptiSilmukka* loop) {
         where +=
             "round " + NumberText(loop->Laskuri) + " of at most " + NumberText(loop->Kierroksia);
     }
-    main_.Edistyma(where.empty() ? "" : "Tool running: " + where);
+    main_.Huomautukset().Edistyma(where.empty() ? "" : "Tool running: " + where);
 }
 
 SkriptiSilmukka& ToolRun::Silmukka() {

@@ -19,7 +19,10 @@ QString AsTitle(std::string_view text) {
 }
 
 QString AsToolTip(const QString& text) {
-    return text.isEmpty() ? QString() : QLatin1String("<span>%1</span>").arg(text.toHtmlEscaped());
+    return text.isEmpty()
+               ? QString()
+               : QLatin1String("<span>%1</span>")
+                     .arg(text.toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
 }
 
 QColor ToQt(Rgb color) {

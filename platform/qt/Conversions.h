@@ -19,7 +19,8 @@ std::string FromQt(const QString& text);
 QString WithoutAltKeys(std::string_view text);
 /// For title bars, where "[*]" would stand for "modified".
 QString AsTitle(std::string_view text);
-/// For tooltips, where a name with angle brackets would be taken as marked up text.
+/// For tooltips, where a name with angle brackets would be taken as marked up text. Lines stay
+/// lines.
 QString AsToolTip(const QString& text);
 
 QColor ToQt(Rgb color);

@@ -39,7 +39,7 @@ MainWindow::MainWindow(MainFormEvents& events, const QtEventLoop& loop)
       loop_(loop),
       area_(new QMdiArea),
       panel_(new SidePanel(events)),
-      status_(new ElidedLabel) {
+      status_(new StatusLine) {
     area_->setBackground(ToQt(kBackgroundColor));
     area_->setFrameShape(QFrame::NoFrame);
     area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
@@ -58,7 +58,6 @@ MainWindow::MainWindow(MainFormEvents& events, const QtEventLoop& loop)
     row->addWidget(panel_);
     setCentralWidget(middle);
 
-    status_->setObjectName(QStringLiteral("StatusLine"));
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addWidget(status_, 1);
     setContextMenuPolicy(Qt::NoContextMenu);

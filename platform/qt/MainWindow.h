@@ -5,9 +5,9 @@
 #include <QMdiArea>
 
 #include "platform/MainForm.h"
-#include "platform/qt/ElidedLabel.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/SidePanel.h"
+#include "platform/qt/StatusLine.h"
 
 namespace tessarin {
 
@@ -17,7 +17,7 @@ class MainWindow : public QMainWindow {
 
     QMdiArea& Area() { return *area_; }
     SidePanel& Panel() { return *panel_; }
-    ElidedLabel& StatusLine() { return *status_; }
+    StatusLine& Status() { return *status_; }
     void SetPanelWidth(int pixels);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -34,7 +34,7 @@ class MainWindow : public QMainWindow {
     const QtEventLoop& loop_;
     QMdiArea* area_;
     SidePanel* panel_;
-    ElidedLabel* status_;
+    StatusLine* status_;
 };
 
 }  // namespace tessarin

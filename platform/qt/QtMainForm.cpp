@@ -48,8 +48,12 @@ void QtMainForm::SetItemChecked(std::string_view command, bool checked) {
     menus_->SetChecked(command, checked);
 }
 
-void QtMainForm::SetStatus(std::string_view text) {
-    window_->StatusLine().SetFullText(ToQt(text));
+void QtMainForm::SetStatus(std::span<const std::string> lines, StatusKind kind) {
+    QStringList shown;
+    for (const std::string& line : lines) {
+        shown.append(ToQt(line).simplified());
+    }
+    window_->Status().Show(shown, kind);
 }
 
 void QtMainForm::SetPanelWidth(Twips width) {

@@ -24,7 +24,7 @@ class QtMainForm : public MainForm {
     void BuildMenus(std::span<const Menu> menus) override;
     void SetItemEnabled(std::string_view command, bool enabled) override;
     void SetItemChecked(std::string_view command, bool checked) override;
-    void SetStatus(std::string_view text) override;
+    void SetStatus(std::span<const std::string> lines, StatusKind kind) override;
     void SetPanelWidth(Twips width) override;
     void BuildPanel(int populations, int definitions) override;
     void SetPanelRow(int slot, const PanelRow& row) override;

@@ -40,6 +40,12 @@ void ScriptedMainForm::SetItemChecked(std::string_view command, bool on) {
     checked[std::string(command)] = on;
 }
 
+void ScriptedMainForm::SetStatus(std::span<const std::string> lines, StatusKind kind) {
+    statusLines.assign(lines.begin(), lines.end());
+    status = lines.empty() ? "" : lines.back();
+    statusKind = kind;
+}
+
 void ScriptedMainForm::BuildPanel(int populations, int definitions) {
     rows.assign(static_cast<std::size_t>(populations) + static_cast<std::size_t>(definitions), {});
 }

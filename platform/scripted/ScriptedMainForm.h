@@ -18,7 +18,7 @@ class ScriptedMainForm : public MainForm {
     void BuildMenus(std::span<const Menu> newMenus) override;
     void SetItemEnabled(std::string_view command, bool on) override;
     void SetItemChecked(std::string_view command, bool on) override;
-    void SetStatus(std::string_view text) override { status = text; }
+    void SetStatus(std::span<const std::string> lines, StatusKind kind) override;
     void SetPanelWidth(Twips width) override { panelWidth = width; }
     void BuildPanel(int populations, int definitions) override;
     void SetPanelRow(int slot, const PanelRow& row) override;
@@ -38,7 +38,9 @@ class ScriptedMainForm : public MainForm {
     bool shown = false;
     std::vector<Menu> menus;
     std::map<std::string, bool> checked;
-    std::string status;
+    std::string status;  ///< the line that can be seen
+    std::vector<std::string> statusLines;
+    StatusKind statusKind = StatusKind::kRemark;
     Twips panelWidth;
     std::vector<PanelRow> rows;  ///< slot n is rows[n - 1]
     std::vector<int> selectedRows;

@@ -172,6 +172,39 @@ TEST_F(FileLoadingTest, NewFilesGetTheirMembersAndOddOnesAWord) {
     EXPECT_TRUE(platform.mainForm.status.starts_with("odd2.fcs: "));
 }
 
+TEST_F(FileLoadingTest, EachOfSeveralOddFilesHasALine) {
+    std::vector<std::string> told;
+    main.onRemark = [&told](const std::string& remark) { told.push_back(remark); };
+    const auto names = [this] {
+        std::vector<std::string> first;
+        for (const std::string& line : platform.mainForm.statusLines) {
+            first.push_back(line.substr(0, line.find(':')));
+        }
+        return first;
+    };
+    using Names = std::vector<std::string>;
+    const std::string a = Write("a", 3, "C");
+    const std::string b = Write("b", 4, "C");
+    const std::string plain = Write("plain", 5);
+    platform.mainForm.events->FilesDropped({a, b, plain});
+    EXPECT_EQ(names(), (Names{"a", "b"})) << "the one that is not odd wipes none of them";
+    EXPECT_EQ(platform.mainForm.statusKind, StatusKind::kOddFiles);
+    EXPECT_EQ(told.size(), 2U);
+    AktivoiIkkuna(main, 3);
+    EXPECT_EQ(names(), Names{});
+    AktivoiIkkuna(main, 1);
+    EXPECT_EQ(names(), (Names{"b", "a"})) << "that of the active window is the one that shows";
+    main.Huomauta("done");
+    EXPECT_EQ(platform.mainForm.statusLines, Names{"done"});
+    EXPECT_EQ(platform.mainForm.statusKind, StatusKind::kRemark);
+
+    PlotForms()[1]->Close();
+    main.AvaaTiedostot({plain, a});
+    EXPECT_EQ(names(), Names{"a"}) << "a file that is gone is told of no more";
+    main.AvaaTiedosto(plain);
+    EXPECT_EQ(names(), Names{});
+}
+
 TEST_F(FileLoadingTest, FileDialogsStartAtTheFileOfTheActiveWindow) {
     const auto start = [this](const std::string& command) {
         platform.dialogs.lastFolder = "none asked";

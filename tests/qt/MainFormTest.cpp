@@ -1,9 +1,12 @@
 // The main window: menus, status line, closing, dropping, pictures.
 #include <QAction>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPushButton>
 #include <QStatusBar>
 #include <QStatusTipEvent>
 #include <QUrl>
@@ -25,6 +28,9 @@ class MainFormTest : public WindowTest {
               {"Bumper", "Use neg value bumper", "", true, true}}},
             {"MenuScript", "&Tools", {{"SkriptiLista1", "Search & find", ""}}}};
         Main().BuildMenus(menus);
+    }
+    void Remark(const std::vector<std::string>& lines) {
+        Main().SetStatus(lines, StatusKind::kRemark);
     }
     QAction& Item(const char* name) {
         auto* action = Window().findChild<QAction*>(QString::fromLatin1(name));
@@ -79,23 +85,61 @@ TEST_F(MainFormTest, ACheckMarkIsSetByTheProgramAlone) {
 }
 
 TEST_F(MainFormTest, TheStatusLineStaysUntilTheNext) {
-    Main().SetStatus("short");
+    const ElidedLabel& text = Window().Status().Text();
+    Remark({"short"});
     LetEventsRun();
-    EXPECT_EQ(Window().StatusLine().text(), "short");
+    EXPECT_EQ(text.text(), "short");
     QStatusTipEvent tip("");
     QCoreApplication::sendEvent(&Window(), &tip);
-    EXPECT_TRUE(Window().StatusLine().isVisible());
+    EXPECT_TRUE(text.isVisible());
     EXPECT_EQ(Window().statusBar()->currentMessage(), "");
 
     const int width = Window().width();
-    Main().SetStatus(std::string(2000, 'w') + " <b>");
+    Remark({std::string(2000, 'w') + " <b>"});
     LetEventsRun();
     EXPECT_EQ(Window().width(), width);
     EXPECT_LT(Window().minimumSizeHint().width(), 800);
-    EXPECT_TRUE(Window().StatusLine().text().endsWith(QChar(0x2026)));
-    EXPECT_TRUE(Window().StatusLine().toolTip().contains("&lt;b&gt;"));
-    Main().SetStatus("");
-    EXPECT_EQ(Window().StatusLine().text(), "");
+    EXPECT_TRUE(text.text().endsWith(QChar(0x2026)));
+    EXPECT_TRUE(text.toolTip().contains("&lt;b&gt;"));
+    Remark({});
+    EXPECT_EQ(text.text(), "");
+    EXPECT_EQ(text.toolTip(), "");
+}
+
+TEST_F(MainFormTest, OddFilesHaveASignAColourAndALineEach) {
+    StatusLine& line = Window().Status();
+    auto& sign = *line.findChild<QLabel*>("StatusSign");
+    auto& all = *line.findChild<QPushButton*>("StatusAll");
+    const auto colour = [&line] { return line.Text().palette().color(QPalette::WindowText); };
+    const int height = Window().Area().height();
+    Remark({"The sheet was saved."});
+    LetEventsRun();
+    EXPECT_FALSE(sign.isVisible() || all.isVisible());
+    const QColor plain = colour();
+    const std::vector<std::string> lines{"a.fcs: data end early", "b.fcs: <odd> & more"};
+    Main().SetStatus(lines, StatusKind::kOddFiles);
+    LetEventsRun();
+    EXPECT_TRUE(sign.isVisible() && all.isVisible());
+    EXPECT_FALSE(sign.pixmap().isNull());
+    EXPECT_NE(colour(), plain);
+    EXPECT_EQ(line.Text().text(), "b.fcs: <odd> & more");
+    EXPECT_EQ(all.text(), "Show all 2");
+    EXPECT_TRUE(line.Text().toolTip().contains("data end early<br>b.fcs"));
+    EXPECT_EQ(Window().Area().height(), height) << "a remark moves nothing";
+
+    for (QWidget* clicked : {static_cast<QWidget*>(&all), line.findChild<QWidget*>("StatusLine")}) {
+        Click(*clicked, clicked->rect().center());
+        QWidget* list = QApplication::activePopupWidget();
+        ASSERT_NE(list, nullptr);
+        EXPECT_EQ(list->findChild<QLabel*>()->text(), "a.fcs: data end early\nb.fcs: <odd> & more");
+        list->close();
+        LetEventsRun();
+    }
+    Main().SetStatus(std::span(lines).first(1), StatusKind::kOddFiles);
+    EXPECT_TRUE(sign.isVisible() && !all.isVisible());
+    Remark({"something else"});
+    EXPECT_FALSE(sign.isVisible());
+    EXPECT_EQ(colour(), plain);
 }
 
 TEST_F(MainFormTest, TheCloseBoxAsksAndTheWindowStaysUnlessTheProgramQuits) {

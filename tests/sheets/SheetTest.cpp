@@ -128,6 +128,25 @@ TEST_F(SheetTest, SheetsFromElsewhere) {
     EXPECT_EQ(Ikkunat(7).FileIndex, 0);
 }
 
+TEST_F(SheetTest, EachOddFileOfASheetHasALine) {
+    std::string text;
+    const std::array<std::string, 3> names = {"first", "plain", "last"};
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        FcsBuilder file("I", 16, "1,2,3,4", 1, 1);
+        file.Set("$MODE", names[i] == "plain" ? "L" : "C");
+        file.AddInteger(7);
+        text += "file." + std::to_string(i + 1) + ".path:" + folder_.Write(names[i], file.Bytes()) +
+                "\n" + "window." + std::to_string(i + 1) + ".type:DotPlot\nwindow." +
+                std::to_string(i + 1) + ".file:" + std::to_string(i + 1) + "\n";
+    }
+    Load(folder_.Write("odd.tessarin", text));
+    ASSERT_EQ(platform.mainForm.statusLines.size(), 2U);
+    EXPECT_TRUE(platform.mainForm.statusLines[0].starts_with("first: "));
+    EXPECT_TRUE(platform.mainForm.status.starts_with("last: "));
+    Load(folder_.Write("none.tessarin", "general.version:1\n"));
+    EXPECT_TRUE(platform.mainForm.statusLines.empty()) << "its files are gone";
+}
+
 TEST_F(SheetTest, WhatIsNoSheetLeavesTheSession) {
     LayOut();
     const std::string saved = Save("FileSaveView", "a.tessarin");

@@ -37,7 +37,7 @@ ChildFrame::~ChildFrame() {
 
 void ChildFrame::SetCaption(std::string_view caption) {
     if (window_) {
-        window_->setWindowTitle(AsTitle(caption));
+        window_->SetTitle(caption);
     }
 }
 

@@ -31,12 +31,17 @@ class ChildWindow : public QMdiSubWindow {
 
     QSize minimumSizeHint() const override;
 
+    /// The title as the logic gave it. Its bar shows what has room there, its tool tip all of it.
+    void SetTitle(std::string_view title);
+    const QString& WholeTitle() const { return title_; }
+
     /// Whether it has its own size and place now: it is neither minimised nor fills the area.
     bool HasOwnSize() const { return !isMinimized() && !isMaximized(); }
     /// Its own size and place, which it goes back to from being minimised or filling the area.
     QRect OwnGeometry() const { return HasOwnSize() ? geometry() : own_; }
 
   protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -44,8 +49,10 @@ class ChildWindow : public QMdiSubWindow {
 
   private:
     void KeepGeometry();
+    bool TitleIsCutAt(QPoint place) const;
 
     ChildEvents* events_;
+    QString title_;
     QRect own_;
 };
 

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QPainter>
 #include <QPixmap>
-#include <QStyleFactory>
 
 #include "platform/qt/Conversions.h"
+#include "platform/qt/TitleStyle.h"
 
 namespace tessarin {
 namespace {
@@ -39,7 +39,7 @@ QPalette PaletteOn(Rgb background) {
 }
 
 void SetLook() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new TitleStyle);
     QApplication::setPalette(PaletteOn(kSurface));
     QApplication::setWindowIcon(ProgramIcon());
 }

@@ -1,4 +1,8 @@
-// Sizes, closing and the end of child windows.
+// Sizes, titles, closing and the end of child windows.
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include "platform/qt/TitleStyle.h"
 #include "qt/Recorders.h"
 
 namespace tessarin {
@@ -154,6 +158,48 @@ TEST_F(FormTest, TheCaptionStandsInTheTitleAsItIs) {
     const auto a = MakeChild("A");
     a->form->SetCaption("[S] (1): Dot Plot - R&D[*].fcs");
     EXPECT_EQ(Shown(0).windowTitle(), QString("[S] (1): Dot Plot - R&D[*][*].fcs"));
+}
+
+TEST_F(FormTest, AShortTitleKeepsTheTailOfTheFileName) {
+    const QFontMetrics letters(QApplication::font());
+    const QString dots(QChar(0x2026));
+    const QString whole = "(1): Dot Plot - 060909.001";
+    const auto width = [&](const QString& text) { return letters.horizontalAdvance(text); };
+    EXPECT_EQ(ShortTitle(whole, letters, width(whole)), whole);
+    EXPECT_EQ(ShortTitle(whole, letters, width("(1): Dot Plot - " + dots + "909.001")),
+              "(1): Dot Plot - " + dots + "909.001");
+    EXPECT_TRUE(ShortTitle("(1) Statistics: a very long name.fcs", letters,
+                           width("(1) Statistics: " + dots + "long name.fcs"))
+                    .startsWith("(1) Statistics: " + dots));
+    for (const QString& title : {whole, QString("(12): Overlay histogram of all tubes")}) {
+        const int narrow = width(title) / 2;
+        const QString cut = ShortTitle(title, letters, narrow);
+        EXPECT_LE(width(cut), narrow);
+        EXPECT_TRUE(cut.startsWith("(1") && cut.endsWith(title.right(3))) << qPrintable(cut);
+    }
+}
+
+TEST_F(FormTest, ATitleThatIsCutHasAToolTip) {
+    const auto a = MakeChild("A");
+    const auto toolTipAt = [this](QPoint place) {
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        QHelpEvent event(QEvent::ToolTip, place, Shown(0).mapToGlobal(place));
+        QApplication::sendEvent(&Shown(0), &event);
+        return QToolTip::text();
+    };
+    const QPoint title(120, 12);
+    a->form->SetCaption("(1): R&D");
+    EXPECT_FALSE(toolTipAt(title).contains("R&amp;D"));
+    const std::string name = "(1): Dot Plot - R&D of a very long day in a room without windows.fcs";
+    a->form->SetCaption(name);
+    EXPECT_EQ(Shown(0).WholeTitle(), QString::fromStdString(name));
+    EXPECT_TRUE(toolTipAt(title).contains("R&amp;D of a very long day"));
+    EXPECT_FALSE(toolTipAt({120, 100}).contains("R&amp;D")) << "not over the content";
+    a->form->SetOuterSize(TwipsFromPixels(900), TwipsFromPixels(200));
+    EXPECT_FALSE(toolTipAt({300, 12}).contains("R&amp;D"));
+    QToolTip::hideText();
+    LetEventsRun();
 }
 
 }  // namespace

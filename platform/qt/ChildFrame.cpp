@@ -1,7 +1,6 @@
 #include "platform/qt/ChildFrame.h"
 
 #include <QLayout>
-#include <QMdiArea>
 #include <algorithm>
 
 #include "platform/qt/Conversions.h"
@@ -23,8 +22,8 @@ int PlacePixels(Twips place) {
 
 }  // namespace
 
-ChildFrame::ChildFrame(QMdiArea& area, ActiveChild& active, QWidget* content, ChildEvents& events)
-    : window_(new ChildWindow(content, events)), active_(&active) {
+ChildFrame::ChildFrame(ChildArea& area, ActiveChild& active, QWidget* content, ChildEvents& events)
+    : area_(&area), window_(new ChildWindow(content, events)), active_(&active) {
     area.addSubWindow(window_);
 }
 
@@ -109,8 +108,7 @@ void ChildFrame::SetPlace(Twips left, Twips top) {
 }
 
 QSize ChildFrame::AreaSize() const {
-    return window_ && window_->mdiArea() != nullptr ? window_->mdiArea()->viewport()->size()
-                                                    : QSize(0, 0);
+    return area_ ? area_->viewport()->size() : QSize(0, 0);
 }
 
 void ChildFrame::MoveIn() {

@@ -6,6 +6,7 @@
 
 #include "platform/Twips.h"
 #include "platform/qt/ActiveChild.h"
+#include "platform/qt/ChildArea.h"
 #include "platform/qt/ChildWindow.h"
 
 namespace tessarin {
@@ -33,7 +34,7 @@ class GivenLength {
 class ChildFrame {
   public:
     /// Takes over the content, which fills the window.
-    ChildFrame(QMdiArea& area, ActiveChild& active, QWidget* content, ChildEvents& events);
+    ChildFrame(ChildArea& area, ActiveChild& active, QWidget* content, ChildEvents& events);
     ~ChildFrame();
     ChildFrame(const ChildFrame&) = delete;
     ChildFrame& operator=(const ChildFrame&) = delete;
@@ -63,6 +64,7 @@ class ChildFrame {
     void Hide();
 
   private:
+    QPointer<ChildArea> area_;
     QPointer<ChildWindow> window_;
     QPointer<ActiveChild> active_;
     bool resizable_ = true;

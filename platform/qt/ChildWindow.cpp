@@ -83,6 +83,22 @@ void ChildWindow::resizeEvent(QResizeEvent* event) {
     KeepGeometry();
 }
 
+// What stands on the background depends on whether there is a window to see.
+
+void ChildWindow::showEvent(QShowEvent* event) {
+    QMdiSubWindow::showEvent(event);
+    if (parentWidget() != nullptr) {
+        parentWidget()->update();
+    }
+}
+
+void ChildWindow::hideEvent(QHideEvent* event) {
+    QMdiSubWindow::hideEvent(event);
+    if (parentWidget() != nullptr) {
+        parentWidget()->update();
+    }
+}
+
 void ChildWindow::closeEvent(QCloseEvent* event) {
     // Whether the window goes is up to its receiver, not to Qt.
     event->ignore();

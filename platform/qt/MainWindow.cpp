@@ -8,11 +8,15 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
 
 #include "platform/qt/Conversions.h"
 
 namespace tessarin {
 namespace {
+
+// The strip of the closed panel is left free for it.
+constexpr int kStripWidth = PixelsFromTwips({150});
 
 std::vector<std::string> LocalFiles(const QMimeData* data) {
     std::vector<std::string> paths;
@@ -37,25 +41,17 @@ void AcceptFiles(QDropEvent& event) {
 MainWindow::MainWindow(MainFormEvents& events, const QtEventLoop& loop)
     : events_(events),
       loop_(loop),
-      area_(new QMdiArea),
+      area_(new ChildArea),
       panel_(new SidePanel(events)),
       status_(new StatusLine) {
-    area_->setBackground(ToQt(kBackgroundColor));
-    area_->setFrameShape(QFrame::NoFrame);
-    area_->setActivationOrder(QMdiArea::ActivationHistoryOrder);
-    // A new window has a size of its own, also while another one fills the area.
-    area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    area_->viewport()->setMouseTracking(true);
     area_->viewport()->installEventFilter(this);
 
     auto* middle = new QWidget;
     auto* row = new QHBoxLayout(middle);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    row->setContentsMargins(0, 0, kStripWidth, 0);
     row->addWidget(area_);
-    row->addWidget(panel_);
+    panel_->setParent(middle);
+    middle->installEventFilter(this);
     setCentralWidget(middle);
 
     statusBar()->setSizeGripEnabled(false);
@@ -65,11 +61,23 @@ MainWindow::MainWindow(MainFormEvents& events, const QtEventLoop& loop)
 }
 
 void MainWindow::SetPanelWidth(int pixels) {
-    panel_->setFixedWidth(pixels);
-    centralWidget()->layout()->activate();
+    panelWidth_ = pixels;
+    PlacePanel();
+}
+
+void MainWindow::PlacePanel() {
+    const QRect middle = centralWidget()->rect();
+    panel_->setGeometry(middle.width() - panelWidth_, 0, panelWidth_, middle.height());
+    panel_->raise();
+    const int over = std::max(0, panelWidth_ - kStripWidth);
+    area_->SetCovered(
+        QRect(middle.width() - panelWidth_, 0, over, middle.height()).intersected(middle));
 }
 
 bool MainWindow::eventFilter(QObject* receiver, QEvent* event) {
+    if (receiver == centralWidget() && event->type() == QEvent::Resize) {
+        PlacePanel();
+    }
     // Moves over a child window may come through to the area behind it.
     if (receiver == area_->viewport() && event->type() == QEvent::MouseMove &&
         area_->viewport()->childAt(static_cast<QMouseEvent*>(event)->pos()) == nullptr) {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QMdiArea>
 
 #include "platform/MainForm.h"
+#include "platform/qt/ChildArea.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/SidePanel.h"
 #include "platform/qt/StatusLine.h"
@@ -15,9 +15,10 @@ class MainWindow : public QMainWindow {
   public:
     MainWindow(MainFormEvents& events, const QtEventLoop& loop);
 
-    QMdiArea& Area() { return *area_; }
+    ChildArea& Area() { return *area_; }
     SidePanel& Panel() { return *panel_; }
     StatusLine& Status() { return *status_; }
+    /// The panel stands over the area's right edge; what it covers keeps its size and place.
     void SetPanelWidth(int pixels);
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -30,11 +31,14 @@ class MainWindow : public QMainWindow {
     void dropEvent(QDropEvent* event) override;
 
   private:
+    void PlacePanel();
+
     MainFormEvents& events_;
     const QtEventLoop& loop_;
-    QMdiArea* area_;
+    ChildArea* area_;
     SidePanel* panel_;
     StatusLine* status_;
+    int panelWidth_ = 0;
 };
 
 }  // namespace tessarin

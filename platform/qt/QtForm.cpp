@@ -22,7 +22,7 @@ class ProgramResizes {
 
 }  // namespace
 
-QtForm::QtForm(QMdiArea& area, ActiveChild& active, FormEvents& events)
+QtForm::QtForm(ChildArea& area, ActiveChild& active, FormEvents& events)
     : events_(events),
       picture_(new KuvaWidget(kuva_, events)),
       controls_(*picture_),

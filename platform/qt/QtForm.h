@@ -13,7 +13,7 @@ namespace tessarin {
 
 class QtForm : public Form, private ChildEvents {
   public:
-    QtForm(QMdiArea& area, ActiveChild& active, FormEvents& events);
+    QtForm(ChildArea& area, ActiveChild& active, FormEvents& events);
     ~QtForm() override;
     QtForm(const QtForm&) = delete;
     QtForm& operator=(const QtForm&) = delete;

@@ -142,6 +142,23 @@ TEST_F(MainFormTest, OddFilesHaveASignAColourAndALineEach) {
     EXPECT_EQ(colour(), plain);
 }
 
+TEST_F(MainFormTest, AnEmptyWindowTellsHowToBegin) {
+    QWidget& background = *Window().Area().viewport();
+    const QRect middle(background.width() / 2 - 250, background.height() / 2 - 20, 500, 40);
+    auto child = MakeChild("A");
+    child->form->SetPlace(TwipsFromPixels(2), TwipsFromPixels(2));
+    const auto hint = [&] { return background.grab(middle).toImage(); };
+    const QImage without = hint();
+    child->form->Hide();
+    const QImage with = hint();
+    EXPECT_NE(with, without);
+    child->form->Show();
+    EXPECT_EQ(hint(), without);
+    child.reset();
+    LetEventsRun();
+    EXPECT_EQ(hint(), with);
+}
+
 TEST_F(MainFormTest, TheCloseBoxAsksAndTheWindowStaysUnlessTheProgramQuits) {
     EXPECT_FALSE(Window().close());
     EXPECT_TRUE(Window().isVisible());

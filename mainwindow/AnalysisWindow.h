@@ -36,6 +36,10 @@ class AnalysisWindow : public WindowObject, public CopySource {
     virtual void UnloadWindow() = 0;
     /// `Lomake` means form: the child window that shows this one.
     virtual Form& Lomake() = 0;
+    /// Moves the form, or sizes it, along one axis, "x" or "y", for a tool or sheet. It stands
+    /// within reach, whatever is asked for.
+    virtual void AsetaPaikka(std::string_view axis, Twips place) = 0;
+    virtual void AsetaKoko(std::string_view axis, Twips size) = 0;
     /// The title without `SelectedPrefix`.
     virtual std::string AnnaOtsikko() const = 0;
     /// The settings as key lines of a sheet, such as "axis.x:3"; which window they belong to is

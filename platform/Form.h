@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 #include "platform/Controls.h"
 #include "platform/Kuva.h"
@@ -82,11 +83,12 @@ class Form {
     virtual Twips Left() const = 0;
     virtual Twips Top() const = 0;
     virtual void SetPlace(Twips left, Twips top) = 0;
-    /// Moves it into the area, as far as it has room there; its title bar in any case.
-    virtual void MoveIn() = 0;
     /// Size of that area in pixels.
     virtual int AreaWidth() const = 0;
     virtual int AreaHeight() const = 0;
+    /// What else is to be seen in that area: the other child windows, and what the main window has
+    /// standing over it.
+    virtual std::vector<PixelBox> Neighbours() const = 0;
 
     /// Size of the client area in pixels; 0 when there is none to see.
     virtual int ScaleWidth() const = 0;

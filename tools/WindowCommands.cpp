@@ -29,7 +29,6 @@ struct Call {
     double Number() const { return NumberOf(line.value); }
     /// The place of word n among a window's own things, such as its curves.
     int16_t Slot(std::size_t n) const { return SlotOf(line.Word(n), INT16_MAX); }
-    Form& Frame() const { return window.Lomake(); }
     Twips Size() const { return {ToInt32(Rounded(Number()))}; }
 };
 
@@ -125,13 +124,13 @@ void AddPlotCommands(std::vector<WindowCommand>& to) {
                {ToolPattern("w|window.N.axis.x"), [](const Call& c) { SetChannel(c, "x"); }},
                {ToolPattern("w|window.N.axis.y"), [](const Call& c) { SetChannel(c, "y"); }},
                {ToolPattern("w|window.N.size.x"),
-                [](const Call& c) { c.Frame().SetOuterSize(c.Size(), c.Frame().OuterHeight()); }},
+                [](const Call& c) { c.window.AsetaKoko("x", c.Size()); }},
                {ToolPattern("w|window.N.size.y"),
-                [](const Call& c) { c.Frame().SetOuterSize(c.Frame().OuterWidth(), c.Size()); }},
+                [](const Call& c) { c.window.AsetaKoko("y", c.Size()); }},
                {ToolPattern("w|window.N.position.x"),
-                [](const Call& c) { c.Frame().SetPlace(c.Size(), c.Frame().Top()); }},
+                [](const Call& c) { c.window.AsetaPaikka("x", c.Size()); }},
                {ToolPattern("w|window.N.position.y"),
-                [](const Call& c) { c.Frame().SetPlace(c.Frame().Left(), c.Size()); }},
+                [](const Call& c) { c.window.AsetaPaikka("y", c.Size()); }},
                {ToolPattern("w|window.N.statistics.visible"),
                 [](const Call& c) {
                     StatisticsOwner& owner = Must(c.window.Stats());

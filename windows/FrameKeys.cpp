@@ -38,31 +38,33 @@ void FrameWindow::LoadInfo(std::string_view line) {
     }
 }
 
-SheetKey FrameWindow::FormKey(std::string key, double most, Twips (Form::*read)() const,
-                              std::function<void(Form& form, Twips value)> set) {
-    return {std::move(key), [this, read] { return std::to_string((Lomake().*read)().count); },
-            [this, most, set = std::move(set)](std::string_view value) {
+SheetKey FrameWindow::FormKey(std::string key, double most, std::function<Twips()> read,
+                              std::function<void(Twips value)> set) {
+    return {std::move(key), [read = std::move(read)] { return std::to_string(read().count); },
+            [most, set = std::move(set)](std::string_view value) {
                 const auto number = SheetNumber(value);
                 if (number && std::fabs(*number) <= most) {
-                    set(Lomake(), {ToInt32(*number)});
+                    set({ToInt32(*number)});
                 }
             }};
 }
 
 void FrameWindow::AddPlaceKeys(SheetTable& keys) {
-    keys.Add(FormKey("location.x", kFarthest, &Form::Left,
-                     [](Form& form, Twips x) { form.SetPlace(x, form.Top()); }));
-    keys.Add(FormKey("location.y", kFarthest, &Form::Top,
-                     [](Form& form, Twips y) { form.SetPlace(form.Left(), y); }));
+    keys.Add(FormKey(
+        "location.x", kFarthest, [this] { return place_.Left(); },
+        [this](Twips x) { place_.SetLeft(x); }));
+    keys.Add(FormKey(
+        "location.y", kFarthest, [this] { return place_.Top(); },
+        [this](Twips y) { place_.SetTop(y); }));
 }
 
 void FrameWindow::AddSizeKeys(SheetTable& keys) {
-    keys.Add(FormKey("size.x", kWidest, &Form::OuterWidth, [](Form& form, Twips width) {
-        form.SetOuterSize(width, form.OuterHeight());
-    }));
-    keys.Add(FormKey("size.y", kHighest, &Form::OuterHeight, [](Form& form, Twips height) {
-        form.SetOuterSize(form.OuterWidth(), height);
-    }));
+    keys.Add(FormKey(
+        "size.x", kWidest, [this] { return form_->OuterWidth(); },
+        [this](Twips width) { AsetaKoko("x", width); }));
+    keys.Add(FormKey(
+        "size.y", kHighest, [this] { return form_->OuterHeight(); },
+        [this](Twips height) { AsetaKoko("y", height); }));
 }
 
 void FrameWindow::AddFileKey(SheetTable& keys) {

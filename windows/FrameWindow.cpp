@@ -10,7 +10,7 @@
 namespace tessarin {
 
 FrameWindow::FrameWindow(PaaIkkuna& main, const FrameKind& kind)
-    : main_(main), kind_(kind), form_(main.Services().mainForm.MakeChild(*this)) {}
+    : main_(main), kind_(kind), form_(main.Services().mainForm.MakeChild(*this)), place_(*form_) {}
 
 FrameWindow::~FrameWindow() {
     main_.UnohdaKopioitava(this);
@@ -36,14 +36,15 @@ void FrameWindow::Alusta(int16_t id) {
         Ikkunat(ID).FileIndex = CurrentFile;
     }
     PaivitaKehysOtsikko(ID);
-    AsetaKoko();
+    AsetaAlkukoko();
+    place_.FindRoom();
     if (File() != nullptr) {
         LatauksenJalkeen();
     }
     Piirra();
 }
 
-void FrameWindow::AsetaKoko() {
+void FrameWindow::AsetaAlkukoko() {
     const RememberedSize size =
         kind_.sizeGroup.empty() ? RememberedSize() : OletusKoko(kind_.sizeGroup);
     const bool remembered = size.Leveys != 0 || size.Korkeus != 0;
@@ -54,6 +55,22 @@ void FrameWindow::AsetaKoko() {
     Surface().SetBackColor(tausta_.BackColor());
     Surface().Cls();
     ready_ = true;
+}
+
+void FrameWindow::AsetaPaikka(std::string_view axis, Twips place) {
+    if (axis == "x") {
+        place_.SetLeft(place);
+    } else if (axis == "y") {
+        place_.SetTop(place);
+    }
+}
+
+void FrameWindow::AsetaKoko(std::string_view axis, Twips size) {
+    if (axis == "x") {
+        place_.SetOuterSize(size, form_->OuterHeight());
+    } else if (axis == "y") {
+        place_.SetOuterSize(form_->OuterWidth(), size);
+    }
 }
 
 void FrameWindow::LayOut(int width, int height) {

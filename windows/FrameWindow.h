@@ -15,6 +15,7 @@
 #include "mainwindow/AnalysisWindow.h"
 #include "mainwindow/Popups.h"
 #include "sheets/SheetKeys.h"
+#include "windows/FramePlace.h"
 #include "windows/PlotArea.h"
 
 namespace tessarin {
@@ -52,6 +53,8 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     void CopyToClipboard() override;
     void UnloadWindow() override;
     Form& Lomake() override { return *form_; }
+    void AsetaPaikka(std::string_view axis, Twips place) override;
+    void AsetaKoko(std::string_view axis, Twips size) override;
     std::string AnnaOtsikko() const override;
     std::vector<std::string> SaveInfo() override;
     void LoadInfo(std::string_view line) override;
@@ -138,7 +141,7 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     void Kuva_MouseLost() override;
 
   private:
-    void AsetaKoko();
+    void AsetaAlkukoko();
     void Redraw();
     void AwaitRest();
     void Paint();
@@ -147,12 +150,13 @@ class FrameWindow : public AnalysisWindow, protected FormEvents {
     void DropLastCorner();
     bool IsOnPage();
     const SheetTable& Keys();
-    SheetKey FormKey(std::string key, double most, Twips (Form::*read)() const,
-                     std::function<void(Form& form, Twips value)> set);
+    SheetKey FormKey(std::string key, double most, std::function<Twips()> read,
+                     std::function<void(Twips value)> set);
 
     PaaIkkuna& main_;
     FrameKind kind_;
     std::unique_ptr<Form> form_;
+    FramePlace place_;
     std::unique_ptr<SheetTable> keys_;
     std::unique_ptr<Timer> rest_;  // ticks once the size has rested; made by the first resize
     Tausta tausta_;

@@ -17,6 +17,7 @@ Statistics::Statistics(PaaIkkuna& main, StatisticsHost& owner, std::vector<Tilas
       owner_(owner),
       valikko_(std::move(items)),
       form_(main.Services().mainForm.MakeChild(*this)),
+      place_(*form_),
       grid_(form_->Controls().MakeTable({"MSFlexGrid1", "Statistics"})) {
     form_->Surface().SetVisible(false);
     grid_->onRightPress = [this] { ShowMenu(); };
@@ -135,27 +136,22 @@ void Statistics::FitTo(const GridTable& table) {
         form_->OuterHeight() == fittedHeight_) {
         return;
     }
-    form_->SetOuterSize(asked.width, asked.height);
+    place_.SetOuterSize(asked.width, asked.height);
     // Title and edges are not equally thick everywhere, and the scroll bars would hide a whole row
     // for the sake of a few pixels.
     const int moreWidth = std::max(0, asked.neededWidth - form_->ScaleWidth());
     const int moreHeight = std::max(0, asked.neededHeight - form_->ScaleHeight());
     constexpr int kFewPixels = PixelsFromTwips(kGridRowHeight);
     if (moreWidth < kFewPixels && moreHeight < kFewPixels) {
-        form_->SetOuterSize({asked.width.count + TwipsFromPixels(moreWidth).count},
+        place_.SetOuterSize({asked.width.count + TwipsFromPixels(moreWidth).count},
                             {asked.height.count + TwipsFromPixels(moreHeight).count});
     }
-    if (fittedWidth_ == Twips() && !placed_) {
-        form_->MoveIn();
+    if (fittedWidth_ == Twips()) {
+        place_.FindRoomBeside(owner_.OmistajanLomake());
     }
     asked_ = asked;
     fittedWidth_ = form_->OuterWidth();
     fittedHeight_ = form_->OuterHeight();
-}
-
-void Statistics::AsetaPaikka(Twips left, Twips top) {
-    placed_ = true;
-    form_->SetPlace(left, top);
 }
 
 void Statistics::Form_Activate() {

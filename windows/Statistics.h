@@ -10,6 +10,7 @@
 #include "core/Ikkuna.h"
 #include "mainwindow/CopySource.h"
 #include "platform/Form.h"
+#include "windows/FramePlace.h"
 #include "windows/StatisticsItems.h"
 
 namespace tessarin {
@@ -21,6 +22,8 @@ class StatisticsHost {
   public:
     virtual ~StatisticsHost() = default;
     virtual int16_t TilastonIkkuna() const = 0;
+    /// `OmistajanLomake` means the owner's form.
+    virtual const Form& OmistajanLomake() const = 0;
     /// Computes and shows the table anew.
     virtual void PaivitaStatistiikka() = 0;
     /// The table as it is copied: a header row has its value in one cell only.
@@ -53,9 +56,9 @@ class Statistics : public WindowObject, public CopySource, private FormEvents {
     /// Shows another table; the window takes the size that it needs.
     void Nayta(const std::string& caption, const GridTable& table);
     Bitmap Picture() const { return grid_->Picture(); }
-    Form& Lomake() { return *form_; }
-    /// Moves the frame. A window that nobody has placed comes within the area with its first table.
-    void AsetaPaikka(Twips left, Twips top);
+    /// Where it stands. A window that nobody has placed looks for room beside its owner when it has
+    /// its first table.
+    FramePlace& Paikka() { return place_; }
 
   private:
     void Form_Activate() override;
@@ -74,6 +77,7 @@ class Statistics : public WindowObject, public CopySource, private FormEvents {
     std::vector<TilastoValinta> valikko_;
     GridTable table_;
     std::unique_ptr<Form> form_;
+    FramePlace place_;
     std::unique_ptr<Table> grid_;
     // What the last change of the size was for, and what came of it.
     struct Fit {
@@ -86,7 +90,6 @@ class Statistics : public WindowObject, public CopySource, private FormEvents {
     Fit asked_;
     Twips fittedWidth_;
     Twips fittedHeight_;
-    bool placed_ = false;  // somebody has said where it is to stand
 };
 
 /// All cells, a tab between cells and a line feed between rows.

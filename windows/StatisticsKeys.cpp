@@ -25,10 +25,10 @@ SheetKey StatisticsPart::EnabledKey() {
             }};
 }
 
-SheetFamily StatisticsPart::PlaceKey(std::string_view axis, Twips (Form::*read)() const) {
+SheetFamily StatisticsPart::PlaceKey(std::string_view axis, Twips (FramePlace::*read)() const) {
     return {"statistics." + std::string(axis),
             [this, read](const SheetNumbers& /*none*/) {
-                return std::to_string((Avoinna()->Lomake().*read)().count);
+                return std::to_string((Avoinna()->Paikka().*read)().count);
             },
             [this, axis](const SheetNumbers& /*none*/, std::string_view value) {
                 const auto place = SheetNumber(value);
@@ -56,7 +56,8 @@ void StatisticsPart::AddKeys(SheetTable& keys, int items) {
         std::iota(numbers.begin(), numbers.end(), 1);
         return numbers;
     };
-    keys.Add([open] { return open(1); }, {PlaceKey("x", &Form::Left), PlaceKey("y", &Form::Top)});
+    keys.Add([open] { return open(1); },
+             {PlaceKey("x", &FramePlace::Left), PlaceKey("y", &FramePlace::Top)});
     keys.Add([open, items] { return open(items); }, {ColumnKey(items)});
 }
 

@@ -59,10 +59,11 @@ std::string StatisticsPart::AnnaKokoStatistiikka(std::string_view format) const 
 }
 
 void StatisticsPart::LiikutaStatistiikkaLaatikkoa(std::string_view axis, int32_t place) {
-    if (Statistics* shown = Avoinna()) {
-        const Form& form = shown->Lomake();
-        shown->AsetaPaikka(axis == "x" ? Twips{place} : form.Left(),
-                           axis == "y" ? Twips{place} : form.Top());
+    Statistics* shown = Avoinna();
+    if (shown != nullptr && axis == "x") {
+        shown->Paikka().SetLeft({place});
+    } else if (shown != nullptr && axis == "y") {
+        shown->Paikka().SetTop({place});
     }
 }
 

@@ -61,11 +61,12 @@ class StatisticsPart : public StatisticsOwner, public StatisticsTableOwner, priv
     Statistics* Avoinna() const;
     void VaihdaIkkuna(bool open);
     SheetKey EnabledKey();
-    SheetFamily PlaceKey(std::string_view axis, Twips (Form::*read)() const);
+    SheetFamily PlaceKey(std::string_view axis, Twips (FramePlace::*read)() const);
     SheetFamily ColumnKey(int items);
 
     // StatisticsHost.
     int16_t TilastonIkkuna() const override { return window_.AnnaID(); }
+    const Form& OmistajanLomake() const override { return window_.Lomake(); }
     GridTable TilastoKopio() override;
     void SuljeStatistiikka() override { AvaaTaiSuljeStatistics("close"); }
     bool OnkoTilastoEsikatselussa() const override;

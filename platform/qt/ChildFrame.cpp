@@ -111,13 +111,25 @@ QSize ChildFrame::AreaSize() const {
     return area_ ? area_->viewport()->size() : QSize(0, 0);
 }
 
-void ChildFrame::MoveIn() {
-    if (!window_ || window_->mdiArea() == nullptr) {
-        return;
+std::vector<PixelBox> ChildFrame::Neighbours() const {
+    std::vector<PixelBox> boxes;
+    const auto add = [&boxes](const QRect& place) {
+        boxes.push_back({place.x(), place.y(), place.width(), place.height()});
+    };
+    if (!area_) {
+        return boxes;
     }
-    const QSize room = AreaSize() - window_->size();
-    window_->move(std::max(0, std::min(window_->x(), room.width())),
-                  std::max(0, std::min(window_->y(), room.height())));
+    const QList<QMdiSubWindow*> children = area_->subWindowList();
+    for (QMdiSubWindow* each : children) {
+        const auto* child = dynamic_cast<ChildWindow*>(each);
+        if (child != nullptr && child != window_ && !child->isHidden()) {
+            add(child->isMaximized() ? child->OwnGeometry() : child->geometry());
+        }
+    }
+    if (!area_->Covered().isEmpty()) {
+        add(area_->Covered());
+    }
+    return boxes;
 }
 
 void ChildFrame::Show() {

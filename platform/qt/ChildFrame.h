@@ -3,7 +3,9 @@
 
 #include <QPointer>
 #include <string_view>
+#include <vector>
 
+#include "platform/Controls.h"
 #include "platform/Twips.h"
 #include "platform/qt/ActiveChild.h"
 #include "platform/qt/ChildArea.h"
@@ -53,10 +55,11 @@ class ChildFrame {
     Twips Left() const;
     Twips Top() const;
     void SetPlace(Twips left, Twips top);
-    /// Moves it into the area, as far as it has room there; its title bar in any case.
-    void MoveIn();
     /// Size of the area in pixels.
     QSize AreaSize() const;
+    /// Where the other windows stand that are shown, and what covers a part of the area. A window
+    /// that fills it will go back to its own place.
+    std::vector<PixelBox> Neighbours() const;
 
     void Show();
     /// Shows it while another child stays the active one.

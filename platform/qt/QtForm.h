@@ -27,9 +27,9 @@ class QtForm : public Form, private ChildEvents {
     Twips Left() const override { return frame_.Left(); }
     Twips Top() const override { return frame_.Top(); }
     void SetPlace(Twips left, Twips top) override { frame_.SetPlace(left, top); }
-    void MoveIn() override { frame_.MoveIn(); }
     int AreaWidth() const override { return frame_.AreaSize().width(); }
     int AreaHeight() const override { return frame_.AreaSize().height(); }
+    std::vector<PixelBox> Neighbours() const override { return frame_.Neighbours(); }
     int ScaleWidth() const override { return frame_.ClientSize().width(); }
     int ScaleHeight() const override { return frame_.ClientSize().height(); }
     void Show() override;

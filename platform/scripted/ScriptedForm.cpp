@@ -33,6 +33,19 @@ int ScriptedForm::ScaleHeight() const {
     return std::max(0, PixelsFromTwips(height) - kFrameHeight);
 }
 
+std::vector<PixelBox> ScriptedForm::Neighbours() const {
+    std::vector<PixelBox> boxes;
+    if (all != nullptr) {
+        for (const ScriptedForm* form : *all) {
+            if (form != this && form->shown) {
+                boxes.push_back({PixelsFromTwips(form->left), PixelsFromTwips(form->top),
+                                 PixelsFromTwips(form->width), PixelsFromTwips(form->height)});
+            }
+        }
+    }
+    return boxes;
+}
+
 void ScriptedForm::Show() {
     shown = true;
     Activate();

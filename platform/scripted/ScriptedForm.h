@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/Form.h"
 #include "platform/scripted/RecordingKuva.h"
@@ -28,9 +29,9 @@ class ScriptedForm : public Form {
         left = newLeft;
         top = newTop;
     }
-    void MoveIn() override { ++movedIn; }
     int AreaWidth() const override { return 1000; }
     int AreaHeight() const override { return 700; }
+    std::vector<PixelBox> Neighbours() const override;
     int ScaleWidth() const override;
     int ScaleHeight() const override;
     void Show() override;
@@ -62,7 +63,7 @@ class ScriptedForm : public Form {
     Twips height;
     Twips left;
     Twips top;
-    int movedIn = 0;
+    const std::vector<ScriptedForm*>* all = nullptr;  ///< forms of the area, this one among them
     RecordingKuva surface;
     ScriptedControlMaker controls;
 

@@ -57,6 +57,7 @@ void ScriptedMainForm::SetPanelRow(int slot, const PanelRow& row) {
 std::unique_ptr<Form> ScriptedMainForm::MakeChild(FormEvents& formEvents) {
     auto form = std::make_unique<ScriptedForm>(
         formEvents, [this](ScriptedForm* gone) { std::erase(children, gone); });
+    form->all = &children;
     children.push_back(form.get());
     return form;
 }

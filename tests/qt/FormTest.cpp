@@ -202,5 +202,27 @@ TEST_F(FormTest, ATitleThatIsCutHasAToolTip) {
     LetEventsRun();
 }
 
+TEST_F(FormTest, NeighboursAreTheOthersThatAreSeen) {
+    const auto a = MakeChild("A");
+    const auto b = MakeChild("B");
+    const auto c = MakeChild("C");
+    b->form->SetPlace(TwipsFromPixels(400), TwipsFromPixels(100));
+    c->form->Hide();
+    const auto seen = [&a] {
+        std::string text;
+        for (const PixelBox& box : a->form->Neighbours()) {
+            text += std::to_string(box.left) + " " + std::to_string(box.top) + " " +
+                    std::to_string(box.width) + " " + std::to_string(box.height) + ";";
+        }
+        return text;
+    };
+    EXPECT_EQ(seen(), "400 100 300 200;");
+    Shown(1).showMaximized();
+    EXPECT_EQ(seen(), "400 100 300 200;") << "it will go back there";
+    Shown(1).showNormal();
+    Main().SetPanelWidth({4000});
+    EXPECT_TRUE(seen().starts_with("400 100 300 200;934 0 256 ")) << seen();
+}
+
 }  // namespace
 }  // namespace tessarin

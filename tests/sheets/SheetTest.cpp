@@ -128,6 +128,43 @@ TEST_F(SheetTest, SheetsFromElsewhere) {
     EXPECT_EQ(Ikkunat(7).FileIndex, 0);
 }
 
+TEST_F(SheetTest, PlacesOutOfReachAreMovedInAndSavedAsTheyWere) {
+    const std::string path = folder_.Write(
+        "large.tessarin", "file.1.path:" + DataFile("a.fcs", 3) +
+                              "\nwindow.1.type:DotPlot\nwindow.1.file:1\n"
+                              "window.1.location.x:40007\nwindow.1.location.y:20003\n"
+                              "window.1.size.x:3000\nwindow.1.size.y:3000\n"
+                              "window.1.statistics.enabled:1\nwindow.1.statistics.x:-30000\n"
+                              "window.1.statistics.y:4503\nwindow.2.type:Histogram\n"
+                              "window.2.file:1\nwindow.2.location.x:1501\n"
+                              "window.2.location.y:-31\nwindow.2.statistics.enabled:1\n");
+    const auto expectPlaces = [this] {
+        const ScriptedForm& far = *PlotForms()[0];
+        EXPECT_EQ(far.left.count, (1000 - 200) * 15);
+        EXPECT_EQ(far.top.count, (700 - 200) * 15);
+        EXPECT_EQ(TableForms()[0]->left, Twips{0});
+        EXPECT_EQ(TableForms()[0]->top, Twips{4500});
+        const ScriptedForm& near = *PlotForms()[1];
+        EXPECT_EQ(near.left, Twips{1501});
+        EXPECT_EQ(near.top, Twips{-31}) << "its title can be reached";
+    };
+    Load(path);
+    expectPlaces();
+    const ScriptedForm& plot = *PlotForms()[1];
+    const ScriptedForm& table = *TableForms()[1];
+    EXPECT_GE(PixelsFromTwips(table.left), PixelsFromTwips(plot.left) + PixelsFromTwips(plot.width))
+        << "one without a place stands beside its plot";
+    const std::string saved = Save("FileSaveView", "again.tessarin");
+    for (const char* line : {"window.1.location.x:40007\nwindow.1.location.y:20003\n",
+                             "window.1.statistics.x:-30000\nwindow.1.statistics.y:4503\n",
+                             "window.2.location.x:1501\nwindow.2.location.y:-31\n"}) {
+        EXPECT_NE(saved.find(line), std::string::npos) << line;
+    }
+    Load(folder_.Path("again.tessarin"));
+    expectPlaces();
+    EXPECT_EQ(Save("FileSaveView", "third.tessarin"), saved);
+}
+
 TEST_F(SheetTest, EachOddFileOfASheetHasALine) {
     std::string text;
     const std::array<std::string, 3> names = {"first", "plain", "last"};

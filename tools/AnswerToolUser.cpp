@@ -1,5 +1,8 @@
 #include "tools/AnswerToolUser.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace tessarin {
 
 const std::string* AnswerToolUser::Find(const std::string& name) const {
@@ -20,7 +23,11 @@ std::string AnswerToolUser::Input(const std::string& name, const std::string& pr
 std::string AnswerToolUser::File(const std::string& name, FileQuestionKind kind,
                                  const std::string& text) {
     if (const std::string* answer = Find(name)) {
-        return *answer;
+        // A folder named without its last stroke would be taken for a file in the folder above.
+        std::error_code error;
+        const bool bare = kind == FileQuestionKind::kFolder && !answer->ends_with('/') &&
+                          std::filesystem::is_directory(*answer, error);
+        return *answer + (bare ? "/" : "");
     }
     return others_ != nullptr ? others_->File(name, kind, text) : "";
 }

@@ -168,7 +168,7 @@ void Skripti::Toteuta_Click() {
         Toteuta->SetCaption("Execute");
         return;
     }
-    DialogToolUser user(main_.Services().dialogs);
+    DialogToolUser user(main_.Services().dialogs, main_.AktiivinenKansio());
     AjaOhjelma(Teksti->Text() + "\r\n", true, user);
 }
 

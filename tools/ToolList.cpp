@@ -53,7 +53,7 @@ void ToolList::Aja(std::size_t tool) {
         main_.Services().dialogs.Message("The tool '" + path + "' could not be read.", "Tools");
         return;
     }
-    DialogToolUser user(main_.Services().dialogs);
+    DialogToolUser user(main_.Services().dialogs, main_.AktiivinenKansio());
     window_.AjaValikosta(read.text, user);
 }
 

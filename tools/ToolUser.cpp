@@ -9,9 +9,9 @@ std::string DialogToolUser::Input(const std::string& /*name*/, const std::string
 std::string DialogToolUser::File(const std::string& /*name*/, FileQuestionKind kind,
                                  const std::string& text) {
     if (kind == FileQuestionKind::kFolder) {
-        return dialogs_.OpenFile({"Select folder", "*.*|*.*", text});
+        return dialogs_.ChooseFolder("Select folder", text.empty() ? folder_ : text);
     }
-    const FileQuestion question{text, "(*.*)|*.*"};
+    const FileQuestion question{.title = text, .filter = "(*.*)|*.*", .folder = folder_};
     return kind == FileQuestionKind::kOpen ? dialogs_.OpenFile(question)
                                            : dialogs_.SaveFile(question);
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/Services.h"
 
@@ -32,7 +33,10 @@ class ToolUser {
 /// The user at the screen.
 class DialogToolUser : public ToolUser {
   public:
-    explicit DialogToolUser(Dialogs& dialogs) : dialogs_(dialogs) {}
+    /// File dialogs start in `folder` where a question does not say where; empty for that of the
+    /// last answer.
+    explicit DialogToolUser(Dialogs& dialogs, std::string folder = "")
+        : dialogs_(dialogs), folder_(std::move(folder)) {}
 
     std::string Input(const std::string& name, const std::string& prompt) override;
     std::string File(const std::string& name, FileQuestionKind kind,
@@ -43,6 +47,7 @@ class DialogToolUser : public ToolUser {
 
   private:
     Dialogs& dialogs_;
+    std::string folder_;
 };
 
 }  // namespace tessarin

@@ -25,8 +25,8 @@ class ScriptedDialogs : public Dialogs {
 
     ExtraButton SetExtraButton(ExtraButton button) override;
     void Message(std::string_view text, std::string_view title) override;
-    /// Takes the next of `answers`; OK or Yes when there is none.
     using Dialogs::Ask;
+    /// Takes the next of `answers`; OK or Yes when there is none.
     bool Ask(std::string_view text, std::string_view title, QuestionButtons buttons,
              SafeAnswer safe) override;
     /// These take the next of `texts`; empty, as for Cancel, when there is none.

@@ -200,31 +200,41 @@ TEST_F(ToolRunTest, QuestionsAreAnsweredBeforehand) {
 }
 
 TEST_F(ToolRunTest, QuestionsOpenDialogs) {
-    DialogToolUser user(platform.dialogs);
+    DialogToolUser user(platform.dialogs, "of the window");
     ToolRun run(main, {user});
     platform.dialogs.texts = {"twelve", folder_.Path("in.fcs"), folder_.Path("out.txt"),
-                              folder_.Path("start")};
+                              folder_.Path("data") + "/"};
     platform.dialogs.answers = {true, false};
-    EXPECT_FALSE(
-        run.AjaOhjelma("question.$a.input:How many?\nquestion.$b.file.open:Which?\n"
-                       "question.$c.file.save:Where?\nquestion.$d.folder.open:there\n"
-                       "message:$a\nquestion.go.continue:On?\nquestion.no.continue:Off?\n"
-                       "message:never\n"));
+    EXPECT_FALSE(run.AjaOhjelma(
+        "question.$a.input:How many?\nquestion.$b.file.open:Which?\n"
+        "question.$c.file.save:Where?\nquestion.$d.folder.open:there\n"
+        "message:$a\nmessage:$d\nquestion.go.continue:On?\nquestion.no.continue:Off?\n"
+        "message:never\n"));
     const auto& asked = platform.dialogs.questions;
     ASSERT_EQ(asked.size(), 6U);
     EXPECT_EQ(asked[0].text, "How many?");
     EXPECT_EQ(asked[1].text, "(*.*)|*.*");
     EXPECT_EQ(asked[1].title, "Which?");
     EXPECT_EQ(asked[2].title, "Where?");
-    EXPECT_EQ(asked[3].text, "*.*|*.*");
     EXPECT_EQ(asked[3].title, "Select folder");
+    EXPECT_EQ(platform.dialogs.lastFolder, "there");
     EXPECT_EQ(asked[4].text, "On?");
     EXPECT_EQ(asked[5].text, "Off?");
     ASSERT_FALSE(platform.dialogs.messages.empty());
     EXPECT_EQ(platform.dialogs.messages[0].text, "twelve");
     EXPECT_EQ(platform.dialogs.messages[0].title, "Message");
+    EXPECT_EQ(platform.dialogs.messages[1].text, folder_.Path("data") + "/");
     for (const auto& message : platform.dialogs.messages) {
         EXPECT_NE(message.text, "never");
+    }
+}
+
+TEST_F(ToolRunTest, AFolderIsAnsweredByItselfOrByAFileInIt) {
+    const std::string folder = folder_.Path();
+    for (const std::string& answer :
+         {folder, folder.substr(0, folder.size() - 1), folder + "any.fcs"}) {
+        answers_["d"] = answer;
+        EXPECT_EQ(Run("question.$d.folder.open:~output.write:$d"), folder + "|") << answer;
     }
 }
 

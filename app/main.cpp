@@ -71,7 +71,7 @@ bool RunTool(const PaaIkkuna& main, Skripti& window, const CommandLine& line) {
     }
     const Tyokalu tool = LueTyokalu(line.tool);
     if (!tool.Valid) {
-        return Told("the tool " + line.tool + " could not be read");
+        return Told("the tool " + line.tool + " could not be read: " + tool.refusal);
     }
     Dialogs& dialogs = main.Services().dialogs;
     DialogToolUser atTheScreen(dialogs);
@@ -211,7 +211,8 @@ int Run(const CommandLine& line, QtApplication& application) {
 int Pack(const CommandLine& line) {
     const Tyokalu tool = LueTyokalu(line.pack);
     if (line.files.size() != 1 || !tool.Valid) {
-        Told(tool.Valid ? "--pack needs one FILE to write" : "there is no file " + line.pack);
+        Told(tool.Valid ? "--pack needs one FILE to write"
+                        : line.pack + " could not be read: " + tool.refusal);
         return kWrongUsage;
     }
     const std::string reason = WriteWhole(line.files[0], TeePaketti(tool.text));

@@ -1,9 +1,8 @@
 #include "sheets/SheetText.h"
 
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 
+#include "core/InputFile.h"
 #include "core/Muuttujat.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
@@ -17,25 +16,40 @@ constexpr std::string_view kContent = "content:";
 constexpr std::size_t kLongestSheet = 64U << 20;  // more than any session could fill
 constexpr std::string_view kDownloadPage = "https://tessarin.example/download";
 
-// The text in front of the files of a package, and where those begin; a missing one is all text.
-bool ReadText(const std::string& path, std::string& text, int64_t& content) {
-    std::ifstream in(path, std::ios::binary);
-    std::string chunk(1 << 16, '\0');
+// The text in front of the files of a package, and where those begin; without such a place, which
+// leaves `content` as it is, all is text. Gives why there is no such text.
+std::string ReadText(InputFile& in, std::string& text, int64_t& content) {
+    constexpr uint64_t kChunk = 1 << 16;
     std::size_t searched = 0;
-    while (in && text.size() < kLongestSheet) {
-        in.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
-        text.append(chunk.data(), static_cast<std::size_t>(in.gcount()));
+    while (text.size() < in.Size()) {
+        const std::string chunk = in.Read(text.size(), kChunk);
+        if (chunk.empty()) {
+            break;
+        }
+        text += chunk;
         for (auto at = text.find(kContent, searched); at != std::string::npos;
              at = text.find(kContent, at + 1)) {
             if (at == 0 || text[at - 1] == '\n' || text[at - 1] == '\r') {
                 content = static_cast<int64_t>(at + kContent.size());
                 text.resize(at);
-                return true;
+                return "";
             }
+        }
+        if (text.size() > kLongestSheet) {
+            return "its text is too long";
         }
         searched = text.size() < kContent.size() ? 0 : text.size() - kContent.size() + 1;
     }
-    return in.eof() && !text.empty();
+    return text.empty() ? "it is empty" : "";
+}
+
+std::string ReadFile(const std::string& path, std::string& text, int64_t& content) {
+    InputFile in(path);
+    try {
+        return in.IsOpen() ? ReadText(in, text, content) : in.Refusal();
+    } catch (const std::ios_base::failure& failure) {
+        return ReadFailure(failure);
+    }
 }
 
 // A "#" anywhere makes a comment, but in the path of a file, where it is a letter like others.
@@ -82,11 +96,13 @@ SheetFile LueNakymatiedosto(const std::string& path) {
     SheetFile sheet;
     sheet.path = path;
     std::string text;
-    if (ReadText(path, text, sheet.content)) {
+    const std::string why = ReadFile(path, text, sheet.content);
+    if (why.empty()) {
         sheet.lines = DataLines(text);
     }
     if (std::none_of(sheet.lines.begin(), sheet.lines.end(), IsSheetLine)) {
-        sheet.refusal = "The file '" + path + "' could not be read as an analysis sheet.";
+        sheet.refusal = "The file '" + path + "' could not be read as an analysis sheet" +
+                        (why.empty() ? "." : ": " + why);
         sheet.title = "Load error";
     } else if (IsNewer(sheet.lines)) {
         sheet.refusal =

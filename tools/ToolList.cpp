@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/InputFile.h"
 #include "core/NaturalOrder.h"
 #include "mainwindow/PaaIkkuna.h"
 #include "tools/Skripti.h"
@@ -31,7 +32,7 @@ void ToolList::Lue() {
     std::filesystem::directory_iterator entry(folder_, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::string name = entry->path().filename().string();
-        if (OnkoTyokalu(name)) {
+        if (OnkoTyokalu(name) && FileObstacle(entry->path().string()).empty()) {
             tools_.push_back({name.substr(0, name.find('.')), std::move(name)});
         }
     }
@@ -50,7 +51,8 @@ void ToolList::Aja(std::size_t tool) {
     const std::string path = folder_ + tools_[tool].TiedostoNimi;
     const Tyokalu read = LueTyokalu(path);
     if (!read.Valid) {
-        main_.Services().dialogs.Message("The tool '" + path + "' could not be read.", "Tools");
+        main_.Services().dialogs.Message(
+            "The tool '" + path + "' could not be read: " + read.refusal, "Tools");
         return;
     }
     DialogToolUser user(main_.Services().dialogs, main_.AktiivinenKansio());

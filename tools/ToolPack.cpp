@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
 
+#include "core/InputFile.h"
 #include "core/Text.h"
 
 namespace tessarin {
@@ -52,12 +51,13 @@ bool OnkoTyokalu(const std::string& name) {
 }
 
 Tyokalu LueTyokalu(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in.is_open()) {
-        return {};
+    constexpr uint64_t kLargestTool = uint64_t{64} << 20U;
+    InputFile file(path);
+    const WholeFile read = ReadWhole(file, kLargestTool);
+    if (!read.refusal.empty()) {
+        return {false, "", read.refusal};
     }
-    const std::string bytes{std::istreambuf_iterator<char>(in), {}};
-    return {!in.bad(), DecodeText(OnkoPakattu(path) ? PuraPaketti(bytes) : bytes)};
+    return {true, DecodeText(OnkoPakattu(path) ? PuraPaketti(read.bytes) : read.bytes)};
 }
 
 }  // namespace tessarin

@@ -19,6 +19,7 @@ std::string TeePaketti(std::string_view text);
 struct Tyokalu {
     bool Valid = false;  ///< False when the file cannot be read
     std::string text;
+    std::string refusal{};  ///< why not, such as "it is a folder"; empty when `Valid`
 };
 
 /// `LueTyokalu` means read a tool: a name that ends in .tsrpack or .tsrtool, in any case, is

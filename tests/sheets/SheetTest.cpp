@@ -1,4 +1,6 @@
 // Analysis sheets and packages: what is saved comes back, and what is broken breaks nothing.
+#include <sys/stat.h>
+
 #include "SheetFixture.h"
 #include "tests/support/OrdinaryUser.h"
 
@@ -196,6 +198,9 @@ TEST_F(SheetTest, WhatIsNoSheetLeavesTheSession) {
     };
     expectStays(folder_.Path("missing.tessarin"), "Load error");
     expectStays(folder_.Path(), "Load error");
+    EXPECT_TRUE(platform.dialogs.messages.back().text.ends_with(": it is a folder"));
+    ASSERT_EQ(mkfifo(folder_.Path("pipe.tessarin").c_str(), 0600), 0);
+    expectStays(folder_.Path("pipe.tessarin"), "Load error");
     expectStays(folder_.Write("empty.tessarin", ""), "Load error");
     expectStays(
         folder_.Write("words.tessarin", std::string(3000, '\0') + "not:a sheet\n# window.1:"),

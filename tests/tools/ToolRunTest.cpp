@@ -244,6 +244,7 @@ TEST(ToolListTest, InstalledToolsRunFromTheMenu) {
     folder.Write("scripts/a.b.tsrscript", "message:plain\r\n");
     folder.Write("scripts/Packed.TSRPACK", TeePaketti("message:packed\r\n"));
     folder.Write("scripts/notes.txt", "message:no\r\n");
+    std::filesystem::create_directory(folder.Path("scripts/folder.tsrscript"));
     ScriptedPlatform platform;
     platform.programFolder = folder.Path();
     PaaIkkuna main(platform.Services());
@@ -281,7 +282,10 @@ TEST(ToolPackTest, PacksComeBackWhole) {
     EXPECT_EQ(LueTyokalu(folder.Write("a.TSRPACK", TeePaketti("end\n"))).text, "end\n");
     EXPECT_EQ(LueTyokalu(folder.Write("a.tsrscript", "end \xb5\n")).text, "end \xc2\xb5\n");
     EXPECT_TRUE(LueTyokalu(folder.Write("empty.tsrscript", "")).Valid);
-    EXPECT_FALSE(LueTyokalu(folder.Path("missing.tsrscript")).Valid);
+    EXPECT_EQ(LueTyokalu(folder.Path("missing.tsrscript")).refusal, "No such file or directory");
+    EXPECT_EQ(LueTyokalu(folder.Path()).refusal, "it is a folder");
+    EXPECT_EQ(LueTyokalu("/dev/zero").refusal, "it is no regular file");
+    EXPECT_FALSE(LueTyokalu("/dev/zero").Valid);
     EXPECT_TRUE(OnkoTyokalu("x.y.TsrTool") && OnkoPakattu("x.tsrtool") && !OnkoTyokalu("x.txt"));
 }
 

@@ -61,7 +61,7 @@ std::vector<std::string> DataLines(const std::string& text) {
     const std::string plain = KorvaaTeksti(KorvaaTeksti(text, "\r\n", "\n"), "\r", "\n");
     std::vector<std::string> lines;
     for (const std::string_view line : Split(plain, '\n')) {
-        if (!line.empty() && !IsComment(line)) {
+        if (line.find(':') != std::string_view::npos && !IsComment(line)) {
             lines.push_back(DecodeText(line));
         }
     }
@@ -74,7 +74,7 @@ bool IsSheetLine(const std::string& line) {
     const SheetLine parts(line);
     const bool known =
         std::find(std::begin(kWords), std::end(kWords), parts.Field(1)) != std::end(kWords);
-    return line.find(':') != std::string::npos && (known || OnkoOsa(parts.Field(1)));
+    return known || OnkoOsa(parts.Field(1));
 }
 
 bool IsNewer(const std::vector<std::string>& lines) {

@@ -10,7 +10,7 @@ namespace tessarin {
 /// A sheet as it stands in its file.
 struct SheetFile {
     std::string path;
-    std::vector<std::string> lines;  ///< data lines in order: no comments, no empty ones
+    std::vector<std::string> lines;  ///< lines with a colon in order, no comments
     bool package = false;
     int64_t content = 0;  ///< place of the first byte of a package's files
 

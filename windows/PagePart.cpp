@@ -21,7 +21,11 @@ WindowMenuItem PagePart::Item() {
 
 void PagePart::AddWindowKey(SheetTable& keys) {
     keys.Add({"printview.window.visible", [this] { return std::string(Previewissa ? "1" : "0"); },
-              [this](std::string_view value) { AsetaPreviewissa(value == "1"); }});
+              [this](std::string_view value) {
+                  if (value == "1" || value == "0") {
+                      AsetaPreviewissa(value == "1");
+                  }
+              }});
 }
 
 void PagePart::AddStatisticsKey(SheetTable& keys) {

@@ -251,6 +251,27 @@ TEST_F(SheetTest, HostileLinesArePassedOver) {
     main.PiirraKaikki();
 }
 
+TEST_F(SheetTest, ALineWithoutColonOrSenseSetsNothing) {
+    LayOut();
+    IkkunaPaikassa(4)->Page()->AsetaPreviewissa(true);
+    const std::string saved = Save("FileSaveView", "a.tessarin");
+    std::string text = saved;
+    for (const std::string_view line : Split(saved, '\n')) {
+        const bool isSetting = (line.starts_with("window.") || line.starts_with("population.") ||
+                                line.starts_with("definition.")) &&
+                               line.find(".type:") == std::string::npos;
+        const std::string key(line.substr(0, line.find(':')));
+        if (isSetting) {
+            text += key + "\n";
+        }
+        if (isSetting && !key.ends_with(".name")) {  // a name may be any text, and none
+            text += key + ":\n" + key + ":nonsense\n" + key + ":1e300\n";
+        }
+    }
+    Load(folder_.Write("b.tessarin", text));
+    EXPECT_EQ(Save("FileSaveView", "c.tessarin"), saved);
+}
+
 TEST_F(SheetTest, PackagesCarryTheirFiles) {
     fs::create_directory(folder_.Path("other"));
     const std::string one = Bytes(DataFile("tube.fcs", 1));

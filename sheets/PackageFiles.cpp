@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <set>
 
+#include "core/InputFile.h"
 #include "core/Muuttujat.h"
 #include "core/Text.h"
 
@@ -13,15 +12,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kChunk = 1 << 20;
-
 int64_t FileSize(const std::string& path) {
     std::error_code error;
     const auto size = fs::file_size(path, error);
     return error ? -1 : static_cast<int64_t>(size);
 }
 
-// A name that no file before had: a number goes in front of the ending.
+// Copies so many bytes; gives why not all of them could be.
+std::string Copy(InputFile& in, int64_t begin, int64_t length, SafeFile& out) {
+    constexpr int64_t kChunk = 1 << 20;
+    if (!in.IsOpen()) {
+        return in.Refusal();
+    }
+    try {
+        for (int64_t done = 0; done < length; done += kChunk) {
+            const auto count = static_cast<uint64_t>(std::min(kChunk, length - done));
+            const std::string chunk = in.Read(static_cast<uint64_t>(begin + done), count);
+            if (chunk.size() != count) {
+                return "it has become shorter";
+            }
+            out.Write(chunk);
+        }
+    } catch (const std::ios_base::failure& failure) {
+        return ReadFailure(failure);
+    }
+    return "";
+}
+
+}  // namespace
+
 std::string FreshName(const std::string& name, std::set<std::string>& taken) {
     const fs::path whole(name);
     std::string fresh = name;
@@ -30,43 +49,6 @@ std::string FreshName(const std::string& name, std::set<std::string>& taken) {
     }
     return fresh;
 }
-
-// Copies so many bytes; false when there are fewer.
-template <class Put>
-bool Copy(std::ifstream& in, int64_t length, Put put) {
-    std::string chunk;
-    while (length > 0) {
-        chunk.resize(static_cast<std::size_t>(std::min<int64_t>(length, kChunk)));
-        in.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
-        if (in.gcount() != static_cast<std::streamsize>(chunk.size()) || !put(chunk)) {
-            return false;
-        }
-        length -= in.gcount();
-    }
-    return true;
-}
-
-// One plain name, so that a package never reaches outside its folder.
-bool IsPlainName(const std::string& name) {
-    return !name.empty() && name != "." && name != ".." &&
-           name.find_first_of(std::string("/\\\0", 3)) == std::string::npos;
-}
-
-bool IsSame(std::ifstream& package, int64_t length, const std::string& path) {
-    // Only an ordinary file has a size; to open another might wait for ever.
-    if (FileSize(path) != length) {
-        return false;
-    }
-    std::ifstream file(path, std::ios::binary);
-    std::string there;
-    return Copy(package, length, [&](const std::string& chunk) {
-        there.resize(chunk.size());
-        file.read(there.data(), static_cast<std::streamsize>(there.size()));
-        return file && there == chunk;
-    });
-}
-
-}  // namespace
 
 std::vector<PackageFile> PakettiTiedostot() {
     std::vector<PackageFile> files;
@@ -84,49 +66,44 @@ std::vector<PackageFile> PakettiTiedostot() {
 std::string KirjoitaPaketti(SafeFile& out) {
     out.Write("content:");
     for (const PackageFile& file : PakettiTiedostot()) {
-        std::ifstream in(file.path, std::ios::binary);
-        const auto put = [&out](const std::string& chunk) {
-            out.Write(chunk);
-            return true;
-        };
-        if (!in || !Copy(in, file.length, put)) {
-            return "The file '" + file.path +
-                   "' could not be read. The package has not been saved.";
+        InputFile in(file.path);
+        const std::string why = Copy(in, 0, file.length, out);
+        if (!why.empty()) {
+            return "The file '" + file.path + "' could not be read: " + why +
+                   ". The package has not been saved.";
         }
     }
     return "";
 }
 
-Purkutulos PuraTiedosto(const std::string& package, const std::string& name, int64_t begin,
-                        int64_t length) {
-    const std::string inPackage = "The file '" + name + "' of the package ";
-    if (!IsPlainName(name)) {
+Purkutulos PuraTiedosto(const std::string& package, const PackedFile& file) {
+    const std::string inPackage = "The file '" + file.name + "' of the package ";
+    if (file.target.empty()) {
         return {"", inPackage + "has a name that leads elsewhere. It was left out."};
     }
     const int64_t size = FileSize(package);
-    if (begin < 0 || length < 0 || begin > size || length > size - begin) {
+    if (file.length < 0 || file.begin > size || file.length > size - file.begin) {
         return {"", inPackage + "is not all there. It was left out."};
     }
-    const std::string path = SplitPath(package).folder + name;
-    std::ifstream in(package, std::ios::binary);
-    in.seekg(begin);
+    const std::string path = SplitPath(package).folder + file.target;
     std::error_code error;
     if (fs::exists(fs::symlink_status(path, error))) {
-        const bool same = IsSame(in, length, path);
+        const bool same = file.beside == PackedFile::Beside::kSame ||
+                          (file.beside == PackedFile::Beside::kNothing &&
+                           OnSamaTiedosto(package, file, path));  // it came just now
         return {path, same ? ""
-                           : "A file '" + name +
+                           : "A file '" + file.target +
                                  "' with other contents stands beside the package already. It was "
                                  "left as it is, and it is the one that is shown."};
     }
+    InputFile in(package);
     SafeFile out(path);
-    const bool whole = Copy(in, length, [&out](const std::string& chunk) {
-        out.Write(chunk);
-        return true;
-    });
-    if (!whole || out.Commit() != WriteResult::kDone) {
-        return {"", inPackage + "could not be written to " + path + ": " + out.Reason()};
+    std::string why = Copy(in, file.begin, file.length, out);
+    if (why.empty() && out.Commit() != WriteResult::kDone) {
+        why = out.Reason();
     }
-    return {path, ""};
+    return why.empty() ? Purkutulos{path, ""}
+                       : Purkutulos{"", inPackage + "could not be written to " + path + ": " + why};
 }
 
 }  // namespace tessarin

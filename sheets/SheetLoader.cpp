@@ -1,10 +1,11 @@
 #include "sheets/SheetLoader.h"
 
 #include <filesystem>
-#include <map>
 #include <new>
+#include <optional>
 #include <set>
 #include <utility>
+#include <vector>
 
 #include "core/BusyPointer.h"
 #include "core/FCSReader.h"
@@ -17,9 +18,11 @@
 #include "mainwindow/PaaIkkuna.h"
 #include "mainwindow/WindowList.h"
 #include "mainwindow/WindowRegistry.h"
+#include "sheets/PackageContents.h"
 #include "sheets/PackageFiles.h"
 #include "sheets/PopulationKeys.h"
 #include "sheets/SheetKeys.h"
+#include "sheets/SheetPath.h"
 #include "sheets/SheetSections.h"
 #include "sheets/SheetText.h"
 
@@ -55,8 +58,9 @@ void EmptySession() {
 
 class SheetLoader {
   public:
-    SheetLoader(PaaIkkuna& main, const SheetFile& sheet)
-        : main_(main), sheet_(sheet), content_(sheet.content) {}
+    /// `packed` are the files that the sheet carries, if it is a package.
+    SheetLoader(PaaIkkuna& main, const SheetFile& sheet, std::vector<PackedFile> packed)
+        : main_(main), sheet_(sheet), packed_(std::move(packed)) {}
 
     void Load() {
         for (const std::string& text : sheet_.lines) {
@@ -77,17 +81,24 @@ class SheetLoader {
         }
     }
 
-    /// What was left out because nothing here knows it; empty for nothing.
-    std::string LeftOut() const {
-        std::string kinds;
-        for (const std::string& kind : unknown_) {
-            kinds += (kinds.empty() ? "" : ", ") + kind;
-        }
-        return kinds.empty() ? ""
-                             : "Windows of kinds that are not known here were left out: " + kinds;
+    /// What came otherwise than the sheet has it; empty for nothing.
+    std::string Remark() const {
+        const std::string kinds =
+            Joined(unknown_, "Windows of kinds that are not known here were left out: ");
+        const std::string names = Joined(renamed_, "Files of the package have other names here: ");
+        return kinds.empty() || names.empty() ? kinds + names : kinds + "; " + names;
     }
 
   private:
+    // Nothing for nothing, else the phrase in front of all of the list.
+    static std::string Joined(const std::set<std::string>& list, const std::string& phrase) {
+        std::string text;
+        for (const std::string& item : list) {
+            text += (text.empty() ? phrase : ", ") + item;
+        }
+        return text;
+    }
+
     // A slot named for the first time starts afresh; its colour stays.
     void Define(int16_t slot) {
         Populaatio& row = Populaatiot(slot);
@@ -126,7 +137,7 @@ class SheetLoader {
         if (!Tiedostot.Holds(slot) || line.KeyFrom(3) != "path" || line.rest.empty()) {
             return;
         }
-        const std::string written(line.rest);
+        const std::string written = PathFromLine(line.rest);
         std::error_code error;
         std::string path = written;
         if (!std::filesystem::exists(path, error)) {
@@ -141,22 +152,19 @@ class SheetLoader {
     }
 
     void TakePacked(const SheetLine& line) {
-        const int slot = line.Number(2);
-        if (line.KeyFrom(3) == "name") {
-            names_[slot] = line.rest;
-        } else if (line.KeyFrom(3) == "length") {
-            const double told = SheetNumber(line.value).value_or(-1);
-            const bool possible = told >= 0 && told <= static_cast<double>(kLongest);
-            const int64_t length = possible ? static_cast<int64_t>(told) : -1;
-            const Purkutulos taken = PuraTiedosto(sheet_.path, names_[slot], content_, length);
-            const bool sound = length >= 0 && length <= kLongest - content_;
-            content_ = sound ? content_ + length : kLongest;
-            if (!taken.message.empty()) {
-                Tell(taken.message);
-            }
-            if (!taken.path.empty() && Tiedostot.Holds(slot)) {
-                LoadInto(taken.path, static_cast<int16_t>(slot));
-            }
+        if (line.KeyFrom(3) != "length" || next_ == packed_.size()) {
+            return;
+        }
+        const PackedFile& file = packed_[next_++];
+        const Purkutulos taken = PuraTiedosto(sheet_.path, file);
+        if (!taken.message.empty()) {
+            Tell(taken.message);
+        }
+        if (!taken.path.empty() && file.target != file.name) {
+            renamed_.insert("'" + file.name + "' is '" + file.target + "'");
+        }
+        if (!taken.path.empty() && Tiedostot.Holds(file.slot)) {
+            LoadInto(taken.path, static_cast<int16_t>(file.slot));
         }
     }
 
@@ -199,14 +207,13 @@ class SheetLoader {
         }
     }
 
-    static constexpr int64_t kLongest = INT64_MAX / 2;
-
     PaaIkkuna& main_;
     const SheetFile& sheet_;
-    int64_t content_;                   // where the next file of a package begins
-    std::map<int, std::string> names_;  // of a package's files, by slot
-    int window_ = 0;                    // number of the window met last
+    std::vector<PackedFile> packed_;
+    std::size_t next_ = 0;  // of those
+    int window_ = 0;        // number of the window met last
     std::set<std::string> unknown_;
+    std::set<std::string> renamed_;
 };
 
 void SelectOne() {
@@ -221,6 +228,20 @@ void SelectOne() {
     }
 }
 
+// The files that a package carries; nothing when the user does not want them written as they are.
+std::optional<std::vector<PackedFile>> AgreedFiles(Dialogs& dialogs, const SheetFile& sheet) {
+    if (!sheet.package) {
+        return std::vector<PackedFile>();
+    }
+    std::vector<PackedFile> files = PakatutTiedostot(sheet);
+    const std::string question = PakettiKysymys(sheet, files);
+    if (!question.empty() &&
+        !dialogs.Ask(question, "Open analysis file", QuestionButtons::kOkCancel)) {
+        return std::nullopt;
+    }
+    return files;
+}
+
 }  // namespace
 
 bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
@@ -232,7 +253,11 @@ bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
         main.Services().dialogs.Message(sheet.refusal, sheet.title);
         return false;
     }
-    SheetLoader loader(main, sheet);
+    auto packed = AgreedFiles(main.Services().dialogs, sheet);
+    if (!packed) {
+        return false;
+    }
+    SheetLoader loader(main, sheet, std::move(*packed));
     {
         const StatusRemarks::Opening opening(main.Huomautukset());
         const BusyPointer busy;
@@ -258,8 +283,8 @@ bool LataaNakyma(PaaIkkuna& main, const std::string& path) {
     for (SheetSection* section : main.Kumppanit().sections) {
         section->SheetLoaded();
     }
-    if (!loader.LeftOut().empty()) {
-        main.Huomauta(loader.LeftOut());
+    if (!loader.Remark().empty()) {
+        main.Huomauta(loader.Remark());
     }
     main.PiirraKaikki();
     return true;

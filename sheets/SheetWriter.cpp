@@ -11,6 +11,7 @@
 #include "mainwindow/WindowList.h"
 #include "sheets/PackageFiles.h"
 #include "sheets/PopulationKeys.h"
+#include "sheets/SheetPath.h"
 #include "sheets/SheetSections.h"
 
 namespace tessarin {
@@ -76,12 +77,13 @@ void AddFiles(SheetBuilder& sheet, NakymaLaji kind) {
         kind == NakymaLaji::kPackage ? PakettiTiedostot() : std::vector<PackageFile>();
     for (int16_t slot = 1; slot <= MaxFiles; ++slot) {
         if (kind == NakymaLaji::kSheet && Tiedostot(slot).Valid) {
-            sheet.Value("file." + std::to_string(slot) + ".path", Tiedostot(slot).Path());
+            sheet.Value("file." + std::to_string(slot) + ".path",
+                        PathToLine(Tiedostot(slot).Path()));
         }
     }
     for (const PackageFile& file : packed) {
         const std::string prefix = "file." + std::to_string(file.slot);
-        sheet.Value(prefix + ".name", file.name);
+        sheet.Value(prefix + ".name", PathToLine(file.name));
         sheet.Value(prefix + ".length", std::to_string(file.length));
     }
 }

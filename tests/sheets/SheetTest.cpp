@@ -1,7 +1,10 @@
 // Analysis sheets and packages: what is saved comes back, and what is broken breaks nothing.
 #include <sys/stat.h>
 
+#include <set>
+
 #include "SheetFixture.h"
+#include "sheets/SheetPath.h"
 #include "tests/support/OrdinaryUser.h"
 
 namespace tessarin {
@@ -332,9 +335,85 @@ TEST_F(SheetTest, PackagesStayInTheirFolder) {
         << text << "window.1.type:DotPlot\ncontent:" << std::string(60, 'z');
     Load(there + "p.tessarin");
     EXPECT_EQ(platform.dialogs.messages.size(), lies.size());
-    EXPECT_EQ(std::distance(fs::directory_iterator(there), {}), 1) << "nothing was written";
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(there)) {
+        names.insert(entry.path().filename().string());
+    }
+    EXPECT_EQ(names, (std::set<std::string>{"p.tessarin", "out.fcs", "tessarin-out.fcs", "b.fcs"}))
+        << "by their last parts, or not at all";
     EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 1);
     EXPECT_TRUE(Ikkunat(1).Used);
+}
+
+TEST_F(SheetTest, APackageAsksBeforeItWritesWhatNobodyExpects) {
+    const std::string tube = Bytes(DataFile("tube.fcs", 1));
+    const std::string there = folder_.Path("in/");
+    fs::create_directory(there);
+    const auto pack = [&](const std::string& lines, const std::string& content) {
+        std::ofstream(there + "p.tessarin", std::ios::binary)
+            << "general.version:1.2.1\ngeneral.style:package\n"
+            << lines << "content:" << content;
+    };
+    const std::string length = std::to_string(tube.size());
+    pack("file.1.name:..bashrc\nfile.1.length:" + length + "\nfile.2.name:bashrc\nfile.2.length:" +
+             length + "\nfile.3.name:other.fcs\nfile.3.length:" + length + "\n",
+         tube + tube + tube);
+    std::ofstream(there + "other.fcs") << "mine";
+    NewDotPlot();
+    platform.dialogs.answers = {false};
+    Load(there + "p.tessarin");
+    EXPECT_EQ(platform.dialogs.questions.back().text,
+              "The package 'p.tessarin' writes its files beside itself, and not all as you may "
+              "expect:\n'..bashrc' would be called 'bashrc-2'.\nAnother file 'other.fcs' is there "
+              "already. It would stay as it is, and be shown.\nDo you want to open it?");
+    EXPECT_EQ(std::distance(fs::directory_iterator(there), {}), 2) << "nothing was written";
+    EXPECT_TRUE(Ikkunat(1).Used) << "and the session is as it was";
+    Load(there + "p.tessarin");
+    EXPECT_EQ(Tiedostot(1).Path(), there + "bashrc-2");
+    EXPECT_EQ(Tiedostot(2).Path(), there + "bashrc");
+    EXPECT_EQ(std::distance(fs::directory_iterator(there), {}), 4);
+    EXPECT_EQ(Bytes(there + "other.fcs"), "mine");
+    EXPECT_EQ(platform.mainForm.status,
+              "Files of the package have other names here: '..bashrc' is 'bashrc-2'");
+
+    std::string many;
+    for (int i = 0; i < 1001; ++i) {
+        many += "file.30.name:" + std::to_string(i) + "\nfile.30.length:0\n";
+    }
+    pack(many, "");
+    platform.dialogs.answers = {false};
+    Load(there + "p.tessarin");
+    EXPECT_NE(platform.dialogs.questions.back().text.find("It holds 1001 files."),
+              std::string::npos);
+    EXPECT_EQ(std::distance(fs::directory_iterator(there), {}), 4);
+}
+
+TEST_F(SheetTest, AnyNameOfAFileComesBack) {
+    const std::vector<std::string> names = {"caf\xe9.fcs", "two\nlines.fcs", "cr\r.fcs",
+                                            "100%.fcs",    "#1: a.fcs",      "\xc3\xa9%e9.fcs"};
+    for (const std::string& name : names) {
+        main.AvaaTiedosto(DataFile(name, 1));
+    }
+    const std::string sheet = Save("FileSaveView", "a.tessarin");
+    EXPECT_NE(sheet.find("path:percent:" + folder_.Path() + "caf%E9.fcs\n"), std::string::npos);
+    EXPECT_NE(sheet.find("path:" + folder_.Path() + "100%.fcs\n"), std::string::npos)
+        << "an ordinary name stands as it is";
+    Save("MenuSaveAnalysisPackage", "p.tessarin");
+    const std::string there = folder_.Path("in\xff/");
+    fs::create_directory(there);
+    fs::copy(folder_.Path("p.tessarin"), there);
+    for (const std::string& folder : {folder_.Path(), there}) {
+        PalautaAlkutila();
+        Load(folder + (folder == there ? "p.tessarin" : "a.tessarin"));
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            EXPECT_EQ(Tiedostot(static_cast<int>(i) + 1).Path(), folder + names[i]);
+        }
+    }
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    for (const std::string path : {"percent:a", "a%", "\n%4", "\xff%zz%41", ""}) {
+        EXPECT_EQ(PathFromLine(PathToLine(path)), path);
+    }
+    EXPECT_EQ(PathFromLine("percent:%4"), "%4") << "written by hand";
 }
 
 TEST_F(SheetTest, EventsDuringLoadingFindNoHalfSession) {

@@ -1,11 +1,11 @@
 #include "core/TemporaryName.h"
 
-#include <signal.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>

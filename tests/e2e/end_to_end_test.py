@@ -7,6 +7,7 @@ import os
 import resource
 import shutil
 import struct
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -214,6 +215,21 @@ class EndToEnd(unittest.TestCase):
         self.assertEqual(os.path.getsize(report), 0)
         self.exit_by_menu("alt+o")
         self.assertEqual(self.program.wait(timeout=20), 0)
+
+    def test_a_limit_of_file_sizes_is_told_and_ends_nothing(self):
+        path = self.file("tube.fcs", [(1, 2)] * 9)
+        words = ["--headless", "--save-fcs", "1=" + path + ".new", "--save-sheet", path + ".sheet"]
+        run = subprocess.run(
+            [PROGRAM, *words, path],
+            preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (1500, 1500)),
+            stderr=subprocess.PIPE,
+            text=True,
+            check=False,
+        )
+        self.assertEqual(run.returncode, 1)  # and not the number of a signal
+        self.assertIn("File too large", run.stderr)
+        self.assertTrue(os.path.exists(path + ".sheet"))
+        self.assertFalse(os.path.exists(path + ".new"))
 
     def exit_by_menu(self, answer):
         self.desktop.click(18, 9)

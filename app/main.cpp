@@ -109,7 +109,7 @@ std::string SaveFcsOf(PaaIkkuna& main, const FcsSave& save) {
     const int16_t slot = Ikkunat(save.window).FileIndex;
     const std::string obstacle =
         Tiedostot.Holds(slot) ? TallennuksenEste(Tiedostot(slot), save.path) : "";
-    const std::string failure = obstacle.empty() ? KirjoitaFCS(save.path, slot) : obstacle;
+    std::string failure = obstacle.empty() ? KirjoitaFCS(save.path, slot) : obstacle;
     if (failure.empty()) {
         HuomautaTallennuksesta(main, Tiedostot(slot));
     }

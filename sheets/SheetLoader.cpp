@@ -236,7 +236,7 @@ std::optional<std::vector<PackedFile>> AgreedFiles(Dialogs& dialogs, const Sheet
     std::vector<PackedFile> files = PakatutTiedostot(sheet);
     const std::string question = PakettiKysymys(sheet, files);
     if (!question.empty() &&
-        !dialogs.Ask(question, "Open analysis file", QuestionButtons::kOkCancel)) {
+        !dialogs.Ask(question, "Open analysis file", QuestionButtons::kOkCancel, SafeAnswer::kNo)) {
         return std::nullopt;
     }
     return files;

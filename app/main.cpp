@@ -137,11 +137,7 @@ bool SaveSnapshot(QtPlatform& platform, const std::string& path) {
     if (path.empty()) {
         return true;
     }
-    for (int16_t id = 1; id <= MaxWindows; ++id) {
-        if (const auto window = IkkunaPaikassa(id)) {
-            window->PiirraLykatty();
-        }
-    }
+    PiirraLykatyt();
     const Bitmap picture = platform.Main().Snapshot();
     const std::string type = std::filesystem::path(path).extension().string();
     QBuffer bytes;

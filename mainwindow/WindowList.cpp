@@ -77,6 +77,14 @@ void ValitseKaikki() {
     }
 }
 
+void PiirraLykatyt() {
+    for (int16_t id = 1; id <= MaxWindows; ++id) {
+        if (const auto window = IkkunaPaikassa(id)) {
+            window->PiirraLykatty();
+        }
+    }
+}
+
 void AktivoiIkkuna(PaaIkkuna& main, int16_t id) {
     if (Loading || IkkunaPaikassa(id) == nullptr) {
         return;

@@ -32,6 +32,10 @@ void PoistaValinnat();
 /// Selects every selectable window.
 void ValitseKaikki();
 
+/// `PiirraLykatyt` means draw those put off: every window's `PiirraLykatty`, so that all pictures
+/// are full.
+void PiirraLykatyt();
+
 /// What each window does when it becomes the active one: it joins the selection, alone unless
 /// Shift is held. Does nothing while a sheet is being loaded.
 void AktivoiIkkuna(PaaIkkuna& main, int16_t id);

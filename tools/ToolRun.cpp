@@ -38,14 +38,6 @@ bool LeavesPictures(const ToolLine& line) {
            std::find(kOthers.begin(), kOthers.end(), first) != kOthers.end();
 }
 
-void DrawPutOff() {
-    for (int16_t id = 1; id <= MaxWindows; ++id) {
-        if (const auto window = IkkunaPaikassa(id)) {
-            window->PiirraLykatty();
-        }
-    }
-}
-
 // What boxes carry beside their own buttons while it lives.
 class BoxButton {
   public:
@@ -89,7 +81,7 @@ bool ToolRun::AjaOhjelma(const std::string& text) {
     CloseReport();
     SkriptiKaynnissa = false;
     main_.Huomautukset().Edistyma("");
-    DrawPutOff();
+    PiirraLykatyt();
     return !aborted_;
 }
 
@@ -153,7 +145,7 @@ void ToolRun::Execute(const std::string& whole) {
 void ToolRun::RunUnseen(const ToolLine& line) {
     const bool step = IsFileStep(line);
     if (!step && !LeavesPictures(line)) {
-        DrawPutOff();
+        PiirraLykatyt();
     }
     const PuttingOff pictures(step);
     SuoritaKomento(*this, line);

@@ -88,6 +88,7 @@ std::string QtDialogs::Input(std::string_view prompt, std::string_view title,
     if (auto* label = dialog.findChild<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
     }
+    dialog.sizeHint();  // before which there are no buttons
     auto* buttons = dialog.findChild<QDialogButtonBox*>();
     bool extra = false;
     if (!extra_.caption.empty() && buttons != nullptr) {

@@ -302,12 +302,12 @@ TEST(Expression, TextFunctions) {
           "a"},
          {"Asc('A') & Chr(66) & Asc(Chr(128)) & Asc('\xce\xbb')", "65B12863"},
          {"AscW('\xe2\x82\xac') & ChrW(8364) & Chr(228)", "8364\xe2\x82\xac\xc3\xa4"},
-         {"AscW(ChrW(-1)) & AscW(ChrW(128300))", "-1128300"},
+         {"AscW(ChrW(-1)) & AscW(ChrW(128300)) & AscW(ChrW(1114111))", "-11283001114111"},
          {"StrComp('a', 'B') & StrComp('a', 'B', 1) & StrComp('a', 'A', 1)", "1-10"},
          {"Len('\xe4')", "1"}});  // no UTF-8: read as one letter
     ExpectFault(Fault::WrongArgument,
                 {"Mid('a',0)", "Mid('a',1,-1)", "Left('a',-1)", "Space(-1)", "Chr(300)", "Chr(-1)",
-                 "Asc('')", "String(2,'')", "InStr(0,'a','a')", "ChrW(55296)",
+                 "Asc('')", "String(2,'')", "InStr(0,'a','a')", "ChrW(55296)", "ChrW(1114112)",
                  "InStrRev('a','a',0)", "Replace('a','a','b',0)", "StrComp(1,2,3)", "InStr('a')"});
     ExpectFault(Fault::WrongType, {"Left('a','b')", "InStr('a','b','c')"});
 }

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/Conversions.h"
 #include "platform/qt/Look.h"
@@ -46,6 +47,8 @@ StatusLine::StatusLine() : sign_(new QLabel), text_(new ElidedLabel), all_(new Q
     text_->setObjectName(QStringLiteral("StatusLine"));
     all_->setObjectName(QStringLiteral("StatusAll"));
     all_->setFlat(true);
+    // No higher than a line, so that the bar takes no room from the windows.
+    all_->setFixedHeight(std::max(kSignSize, fontMetrics().height()));
     all_->setCursor(Qt::PointingHandCursor);
     connect(all_, &QPushButton::clicked, this, [this] { ShowAll(); });
     auto* row = new QHBoxLayout(this);

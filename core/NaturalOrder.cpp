@@ -16,7 +16,7 @@ int Small(char c) {
 
 // Takes the digits that a text begins with off it, and zeros in front off them.
 std::string_view TakeNumber(std::string_view& text) {
-    const auto end = std::find_if_not(text.begin(), text.end(), IsDigit);
+    const auto* const end = std::find_if_not(text.begin(), text.end(), IsDigit);
     std::string_view digits = text.substr(0, static_cast<std::size_t>(end - text.begin()));
     text.remove_prefix(digits.size());
     digits.remove_prefix(std::min(digits.find_first_not_of('0'), digits.size()));

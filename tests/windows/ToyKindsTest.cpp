@@ -1,5 +1,8 @@
 // Two small kinds of windows, made of the parts alone: what a kind has not, nobody finds in it.
 #include <array>
+#include <cstddef>
+#include <memory>
+#include <new>
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
@@ -97,6 +100,17 @@ class Board : public FrameWindow {
     std::unique_ptr<Button> invert_;
 };
 
+// Stands where a window was, and hears who still asks for that.
+class Squatter : public CopySource {
+  public:
+    explicit Squatter(int& asked) : asked_(asked) {}
+    int16_t AnnaID() const override { return static_cast<int16_t>(++asked_); }
+    void CopyToClipboard() override { ++asked_; }
+
+  private:
+    int& asked_;
+};
+
 class Palette : public CompanionWindow {
   public:
     explicit Palette(PaaIkkuna& main) : CompanionWindow(main, "NaytaFileInfo", "Palette") {}
@@ -161,6 +175,28 @@ TEST_F(ToyKindsTest, AKindWithoutFileHasItsControls) {
     EXPECT_FALSE(Runs("$a.set:@.w.1.population.0.number"));
     form.Close();
     EXPECT_FALSE(Ikkunat(1).Used);
+}
+
+TEST_F(ToyKindsTest, NobodyCopiesAWindowThatIsGone) {
+    alignas(Board) std::array<std::byte, sizeof(Board)> room;
+    int asked = 0;
+    const auto leave = [&asked](Board* board) {
+        CopySource* const place = board;
+        board->~Board();
+        new (place) Squatter(asked);
+    };
+    RekisteroiIkkunaLaji({"Board", "LuoClipBook", false, [&](PaaIkkuna& to) {
+                              return std::shared_ptr<Board>(new (room.data()) Board(to), leave);
+                          }});
+    Choose("LuoClipBook");
+    platform.clipboard.image = {};
+    Choose("CopyImages");
+    EXPECT_FALSE(platform.clipboard.image.pixels.empty());
+    LastForm().Close();
+    platform.clipboard.image = {};
+    Choose("CopyImages");
+    EXPECT_EQ(asked, 0);
+    EXPECT_TRUE(platform.clipboard.image.pixels.empty());
 }
 
 TEST_F(ToyKindsTest, ACompanionIsCheckedWhileItIsShown) {

@@ -234,6 +234,54 @@ TEST_F(GestureTest, AnotherSizeLeavesWhatTheMouseHoldsInItsPlace) {
     ExpectIdle();
 }
 
+// Counts the autosaves.
+class CountingStore : public ViewStore {
+  public:
+    void TalletaNakyma(std::string_view mode) override { saves += mode == "Autosave" ? 1 : 0; }
+    bool LataaNakyma(const std::string& /*path*/) override { return false; }
+    void TarjoaPalautusta() override {}
+    void PoistaAutosave() override {}
+    int saves = 0;
+};
+
+TEST_F(GestureTest, StatisticsAndAutosaveWaitForItsEnd) {
+    CountingStore store;
+    main.Kumppanit().views = &store;
+    DrawSquare();
+    ChoosePopup(form_, 1);
+    ChoosePopup(form_, 2);
+    GridTable& table = Grid().table;
+    const auto expect = [&](bool worked, const std::string& when) {
+        EXPECT_EQ(store.saves > 0, worked) << when;
+        EXPECT_EQ(!table.rows.empty(), worked) << when;
+        store.saves = 0;
+        table.rows.clear();
+    };
+    expect(true, "redrawn");
+    struct Case {
+        const char* what;
+        PixelPoint from;
+    };
+    for (const Case& c : {Case{"the cross", {118, 118}}, Case{"a corner", {68, 68}},
+                          Case{"the region", {80, 90}}, Case{"the name", {97, 114}}}) {
+        form_.Press(c.from.x, c.from.y);
+        form_.Move(c.from.x + 1, c.from.y);
+        IkkunaPaikassa(1)->Piirra();
+        expect(false, c.what);
+        form_.Release(c.from.x, c.from.y);
+        expect(true, c.what);
+    }
+    form_.Resize(TwipsFromPixels(300), TwipsFromPixels(300));
+    expect(false, "while the user resizes it");
+    IkkunaPaikassa(1)->Piirra();
+    expect(true, "rested");
+    Loading = true;
+    IkkunaPaikassa(1)->Piirra();
+    expect(false, "while a sheet is loaded");
+    Loading = false;
+    main.Kumppanit().views = nullptr;
+}
+
 TEST_F(GestureTest, AMouseTakenAwayLeavesNoHalfState) {
     DrawSquare();
     const Populaatio before = Populaatiot(1);
@@ -292,6 +340,17 @@ TEST_F(GestureTest, QuadrantIsDraggedAndStopsAtTheEdge) {
     EXPECT_EQ(ViimeKvadranttiY, 10000);
     Drag(68, 218, 68, 118);
     EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 5000");
+    form_.Press(68, 118);
+    EXPECT_EQ(form_.surface.PixelAt(68, 60), Grey(0).Pixel()) << "above the picture";
+    form_.Move(100, 100);
+    form_.Lose();
+    ExpectIdle();
+    EXPECT_TRUE(form_.surface.AutoRedraw());
+    form_.Move(150, 150);
+    form_.Release(150, 150);
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500")
+        << "the mouse was taken away";
+    EXPECT_EQ(form_.surface.PixelAt(68, 60), Grey(255).Pixel());
     ScriptedForm& second = NewDotPlot();
     ChoosePopup(second, 2);
     EXPECT_EQ(IkkunaPaikassa(2)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500");

@@ -6,9 +6,11 @@
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
+#include "mainwindow/WindowRegistry.h"
 #include "plots/HistogramBins.h"
 #include "plots/MarkerOutlines.h"
 #include "tests/support/PlotFixture.h"
+#include "windows/FrameWindow.h"
 
 namespace tessarin {
 namespace {
@@ -42,7 +44,9 @@ TEST(HistogramBinsTest, CountsByPlaceOnTheAxis) {
 TEST(HistogramBinsTest, SmoothsForwardAndFindsTheTop) {
     std::vector<double> bins(1025);
     bins[0] = 7;
+    bins[9] = 8;
     bins[100] = 3;
+    bins[1015] = 9;
     bins[1023] = 6;
     auto smooth = bins;
     Tasoita(smooth, 2);
@@ -54,10 +58,15 @@ TEST(HistogramBinsTest, SmoothsForwardAndFindsTheTop) {
     EXPECT_EQ(smooth[1022], 2) << "the last mean, of bins 1022 to 1024";
     EXPECT_EQ(smooth[1024], 2);
     EXPECT_EQ(KorkeinPylvas(bins), 3) << "not the ten bins at either end";
-    EXPECT_EQ(KorkeinPylvas(smooth), 1);
+    EXPECT_EQ(KorkeinPylvas(smooth), 3) << "nine in three bins, the last of them before the end";
+    bins[1014] = 4;
+    EXPECT_EQ(KorkeinPylvas(bins), 4);
+    bins[10] = 5;
+    EXPECT_EQ(KorkeinPylvas(bins), 5);
     smooth = bins;
     Tasoita(smooth, 1000000);  // limited to 1023: one mean of bins 1 to 1024
-    EXPECT_FLOAT_EQ(static_cast<float>(smooth[1]), 9.0F / 1024);
+    // 5 + 8 + 3 + 4 + 9 + 6 of them.
+    EXPECT_FLOAT_EQ(static_cast<float>(smooth[1]), 35.0F / 1024);
     EXPECT_EQ(smooth[1024], smooth[1]);
     smooth = bins;
     Tasoita(smooth, 0);
@@ -123,6 +132,12 @@ TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
     EXPECT_EQ(top->y, 18 + 3 * 7);
     // From each column to the next, but for the first and the last.
     EXPECT_EQ(CountStrokes(LineForm::kLine, {175, 0, 0}), 199);
+    // Up from the empty column 99 to the top of column 100.
+    EXPECT_EQ(
+        std::ranges::count_if(
+            form_.surface.strokes,
+            [](const auto& s) { return s.x1 == 117 && s.y1 == 218 && s.x2 == 118 && s.y2 == 18; }),
+        1);
     ChoosePopup(form_, 13);
     EXPECT_EQ(CountStrokes(LineForm::kLine, {175, 0, 0}), 0);
     ChoosePopup(form_, 13);
@@ -142,11 +157,19 @@ TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
         EXPECT_TRUE(form_.surface.HasText(" 20")) << refused;
     }
     Answer(2, "5");
+    EXPECT_EQ(form_.surface.PixelAt(118, 18), kRed.Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(118, 17), Grey(0).Pixel()) << "a bar ends at the top";
     platform.dialogs.colors = {{0, 90, 200}};
     ChoosePopup(form_, 11);
     EXPECT_EQ(form_.surface.PixelAt(118, 100), (Rgb{0, 90, 200}).Pixel());
     ChoosePopup(form_, 13);
     EXPECT_GT(CountStrokes(LineForm::kLine, {0, 10, 120}), 0) << "no part of a colour below 0";
+    form_.SetOuterSize(TwipsFromPixels(1036 + 24 + ScriptedForm::kFrameWidth),
+                       TwipsFromPixels(300));
+    EXPECT_EQ(CountStrokes(LineForm::kLine, {0, 10, 120}), 0) << "as many columns as bins";
+    EXPECT_EQ(form_.surface.PixelAt(18 + 512, 100), (Rgb{0, 90, 200}).Pixel());
+    form_.SetOuterSize(TwipsFromPixels(30 + ScriptedForm::kFrameWidth), TwipsFromPixels(300));
+    EXPECT_EQ(CountStrokes(LineForm::kLine, {0, 90, 200}), 0) << "no room for a plot";
     form_.Resize(TwipsFromPixels(1), TwipsFromPixels(1));
     EXPECT_EQ(KokoaMuutetaan, 0) << "always redrawn in full";
 }
@@ -172,6 +195,12 @@ TEST_F(HistogramTest, GivesItsBinsToOthers) {
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("abskorkeus", 1), 2);
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("suhtkorkeus", 1), 2000);
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("other", 1), 0);
+    Populaatiot(1).X[2] = 5000;
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("abskorkeus", 1), 10) << "the bin at its end";
+    Populaatiot(MaxPopulations) = Populaatiot(1);
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", MaxPopulations), 5000);
+    Populaatiot(1).X[2] = 2000;
+    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 0) << "no bin wins";
     Populaatiot(1).X[2] = 1e30F;
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 5000);
     EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 99), 0);
@@ -189,15 +218,30 @@ TEST_F(HistogramTest, GivesItsBinsToOthers) {
     EXPECT_EQ(bins.AnnaHistonKorkeus(place), 0);
     window.Channels()->AsetaKanava("x", 2);
     EXPECT_EQ(window.Channels()->AnnaKanava("x"), "2");
+    EXPECT_EQ(bins.LahetaNimi(), "FL2");
     EXPECT_TRUE(form_.surface.HasText("FL2"));
     PutFile(1, "narrow.fcs", {{"only", false, 1000, {1}}});
     window.Piirra();
     EXPECT_EQ(window.Channels()->AnnaKanava("x"), "1")
         << "a channel that the file lacks falls back";
+    Tiedostot(1) = Tiedosto();
+    EXPECT_EQ(bins.LahetaNimi(), "");
+    ChoosePopup(form_, 18);
+    EXPECT_FALSE(platform.popups.lastEntries[16].enabled) << "no bins to copy";
 }
 
 TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
     PutFile(2, "other.fcs", {{"a", false, 1000, {200, 199.9F, 600, 600.1F}}});
+    Arm();
+    form_.Press(100, 100, MouseButton::kRight);
+    EXPECT_EQ(KulmienMaara, 0) << "only the left button draws";
+    form_.Press(100, 100);
+    EXPECT_FALSE(form_.surface.AutoRedraw()) << "above the picture";
+    form_.Lose();
+    form_.Move(120, 100);
+    form_.Release(120, 100);
+    EXPECT_TRUE(UusiRegionPaalla && !Populaatiot(1).Defined) << "broken off, and armed still";
+    Arm();
     DrawMarker();
     const Populaatio& marker = Populaatiot(1);
     EXPECT_TRUE(marker.Defined && marker.Transparent);
@@ -219,6 +263,9 @@ TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
     EXPECT_EQ(form_.surface.PixelAt(100, 118), Grey(255).Pixel());
     EXPECT_EQ(form_.surface.PixelAt(58, 109), Grey(255).Pixel());
     EXPECT_NE(form_.surface.PixelAt(58, 107), Grey(255).Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(138, 109), Grey(255).Pixel());
+    EXPECT_EQ(form_.surface.PixelAt(138, 127), Grey(255).Pixel());
+    EXPECT_NE(form_.surface.PixelAt(138, 129), Grey(255).Pixel());
     ChoosePopup(form_, 5);
     EXPECT_FALSE(form_.surface.HasText("Histo-1"));
 
@@ -228,6 +275,10 @@ TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
     EXPECT_EQ(CountStrokes(LineForm::kFilledBox, kRed), 2) << "red at first";
     form_.Release(118, 50);
     EXPECT_EQ(Members(1), 10) << "without a move it takes what lies right there";
+    Populaatiot(1).AxisX = 2;
+    Tiedostot(2).Membership.Aseta(1, 1, 1);
+    TarkistaPopulaatiot();
+    EXPECT_EQ(Tiedostot(2).Membership(1, 1), 0) << "a file without the channel has no members";
 }
 
 TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
@@ -247,6 +298,18 @@ TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
     form_.Move(400, 200);  // would leave the plot: stays
     form_.Move(380, 200);
     form_.Release(380, 200);
+    for (const double x : {58.0, 98.0, 150.0, 40.0}) {
+        form_.Press(x, 200);
+        EXPECT_EQ(SiirrettavaRegion, 0) << "at an end or beside it";
+        form_.Release(x, 200);
+    }
+    // To each edge and back; the way back is 40, 160, and 50 pixels up and down.
+    for (const auto& [x, y] :
+         {std::pair{30.0, 200.0}, {190.0, 200.0}, {70.0, 150.0}, {70.0, 200.0}}) {
+        Drag(70, 200, x, y);
+        EXPECT_FLOAT_EQ(Populaatiot(1).X[1], static_cast<float>(2000 + (x - 70) * 50));
+        Drag(x, y, 70, 200);
+    }
     EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 2000);
     EXPECT_FLOAT_EQ(Populaatiot(1).X[2], 4000);
     EXPECT_EQ(SiirrettavaRegion, 0);
@@ -258,6 +321,10 @@ TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
     const PixelPoint name = NimenPaikka(area, Populaatiot(1), kMarkerName);
     EXPECT_EQ(name.x, 18 + 120 - 7 * 3.5) << "over the middle of 5000 and 7000";
     EXPECT_EQ(name.y, 78 - 14);
+    EXPECT_EQ(form_.surface.PixelAt(118, 70), Grey(0).Pixel()) << "the name hides an end";
+    form_.Press(name.x + 1, name.y + 1);
+    EXPECT_EQ(form_.surface.PixelAt(118, 70), Grey(255).Pixel()) << "but not while it is in hand";
+    form_.Lose();
     form_.Move(name.x + 20, name.y + 18);
     EXPECT_EQ(CountStrokes(LineForm::kFilledBox, Grey(120)), 1);
     Drag(name.x + 1, name.y + 1, name.x + 11, name.y - 9);
@@ -300,8 +367,12 @@ TEST_F(HistogramTest, StatisticsWithSpread) {
     marker.Created = 2;  // of another window
     marker.X[1] = 100;
     marker.X[2] = 300;
+    Populaatiot(MaxPopulations) = marker;
+    Populaatiot(MaxPopulations).AxisX = 2;
     Populaatiot(4) = marker;
-    Populaatiot(4).AxisX = 2;
+    Populaatiot(4).Type = "Polygon";
+    Populaatiot(kPopulationSlots).Defined = true;
+    Populaatiot(kPopulationSlots).Name = "Low";
     Populaatiot(5) = marker;
     Populaatiot(5).Name = "None";
     Populaatiot(5).X[1] = 301;
@@ -320,13 +391,21 @@ TEST_F(HistogramTest, StatisticsWithSpread) {
     // 10 and 30: mean 20, distance 10 each, so 0.5; geometric the root of 300.
     EXPECT_EQ(grid.Row("Low"), (Row{"Low", "2", "50", "20", "17.32", "50"}));
     EXPECT_EQ(grid.Row("None"), (Row{"None", "0", "0", "0", "0", "0"}));
-    EXPECT_EQ(grid.table.Rows(), 4) << "no row for a marker of another channel";
+    EXPECT_EQ(grid.table.rows.back().cells[1], "2") << "a definition";
+    EXPECT_EQ(grid.table.Rows(), 5) << "no row for a marker of another channel";
     EXPECT_EQ(TableForms().back()->width.count, 5 * 1200 + 1500 + 100 + 3 * 15)
         << "three pixels more than told, as the frame is wider here";
     const StatisticsOwner& window = *IkkunaPaikassa(1)->Stats();
     EXPECT_EQ(window.AnnaStatistiikka("3", "cv"), 50);
     EXPECT_EQ(window.AnnaStatistiikka("3", "vis"), 50);
+    EXPECT_EQ(window.AnnaStatistiikka("32", "number"), 2);
     EXPECT_EQ(window.AnnaStatistiikka("0", "xmean"), 135);
+    EXPECT_EQ(window.AnnaStatistiikka("0", "vis"), 100);
+    EXPECT_NEAR(window.AnnaStatistiikka("0", "cv").value_or(0), 156.303, 1e-3);
+    EXPECT_NEAR(window.AnnaStatistiikka("0", "xgeomean").value_or(0), 19.6799, 1e-4);
+    for (const char* none : {"-1", "33", ""}) {
+        EXPECT_EQ(window.AnnaStatistiikka(none, "number"), std::nullopt);
+    }
     EXPECT_EQ(window.AnnaStatistiikka("ul", "number"), std::nullopt);
     EXPECT_EQ(window.AnnaStatistiikka("0", "ymean"), std::nullopt);
 
@@ -337,9 +416,59 @@ TEST_F(HistogramTest, StatisticsWithSpread) {
     IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(3);
     EXPECT_EQ(grid.Row("Visible")[1], "2");
     IkkunaPaikassa(1)->Channels()->AsetaKanava("x", 2);
-    EXPECT_EQ(grid.table.Rows(), 4) << "the header row, and the marker on that channel";
+    EXPECT_EQ(grid.table.Rows(), 5) << "the header row, and the marker on that channel";
     ChoosePopup(form_, 1);
     EXPECT_TRUE(TableForms().empty());
+}
+
+// A window that shows histograms, as far as those need to know.
+class Follower : public FrameWindow, private SourceOwner {
+  public:
+    explicit Follower(PaaIkkuna& main) : FrameWindow(main, {.emptyTitle = "Follower"}) {}
+    SourceOwner* Sources() override { return this; }
+    void Piirra() override { ++redraws; }
+    int redraws = 0;
+
+  private:
+    std::vector<WindowMenuItem> Items() override { return {}; }
+    void AddKeys(SheetTable& /*keys*/) override {}
+    void DrawPicture(const PlotArea& /*area*/) override {}
+    bool AsetaHistogram(int16_t /*line*/, int16_t /*window*/) override { return true; }
+};
+
+TEST_F(HistogramTest, WhatFollowsIsWorkedOutOutsideGesturesAndLoading) {
+    RekisteroiIkkunaLaji(
+        {"Follower", "", false, [](PaaIkkuna& to) { return std::make_shared<Follower>(to); }});
+    LuoIkkunaPaikkaan(main, "Follower", MaxWindows);
+    PoistaIkkunaLaji("Follower");
+    auto& follower = dynamic_cast<Follower&>(*IkkunaPaikassa(MaxWindows));
+    NewDotPlot();
+    DrawMarker();
+    ChoosePopup(form_, 1);
+    GridTable& table = Grid().table;
+    follower.redraws = 0;
+    const auto expect = [&](bool worked, const std::string& when) {
+        EXPECT_EQ(follower.redraws > 0, worked) << when;
+        EXPECT_EQ(!table.rows.empty(), worked) << when;
+        follower.redraws = 0;
+        table.rows.clear();
+    };
+    IkkunaPaikassa(1)->Piirra();
+    expect(true, "redrawn");
+    form_.Press(80, 200);
+    form_.Move(90, 200);
+    IkkunaPaikassa(1)->Piirra();
+    expect(false, "while a marker is moved");
+    form_.Release(90, 200);
+    expect(true, "moved");
+    Loading = true;
+    const int drawn = form_.surface.redraws;
+    IkkunaPaikassa(1)->Piirra();
+    EXPECT_EQ(form_.surface.redraws, drawn + 1) << "the picture comes at once";
+    expect(false, "while a sheet is loaded");
+    Loading = false;
+    form_.Close();
+    EXPECT_EQ(follower.redraws, 1) << "nothing to follow";
 }
 
 }  // namespace

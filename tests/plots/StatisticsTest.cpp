@@ -30,16 +30,28 @@ class StatisticsTest : public PlotTest {
         platform.popups.choices.push_back({item, -1});
         grid.onRightPress();
     }
+    // What a tool reads of a row.
+    void ExpectStatistics(const std::string& area,
+                          const std::vector<std::pair<std::string, double>>& values) {
+        for (const auto& [kind, value] : values) {
+            const auto told = IkkunaPaikassa(1)->Stats()->AnnaStatistiikka(area, kind);
+            EXPECT_NEAR(told.value_or(-1), value, 1e-9) << area << " " << kind;
+        }
+    }
     using Row = std::vector<std::string>;
 };
 
 TEST_F(StatisticsTest, CountsSharesAndMeans) {
     Open({{"a", false, 1000, {0, 100, 200.5F}}, {"b", false, 1000, {-10, 10, 30}}});
     DefinePolygon(2, "Two", {1, 1, 1}, {1, 2});
-    DefinePolygon(3, "Elsewhere", {1, 1, 1}, {1});
-    Populaatiot(3).AxisY = 1;
+    DefinePolygon(MaxPopulations, "Elsewhere", {1, 1, 1}, {1});
+    Populaatiot(MaxPopulations).AxisY = 1;
+    DefinePolygon(5, "Across", {1, 1, 1}, {1});
+    Populaatiot(5).AxisX = 2;
+    DefinePolygon(6, "Marker", {1, 1, 1}, {1});
+    Populaatiot(6).Type = "Histogram";
     DefinePolygon(4, "Nobody", {1, 1, 1}, {});
-    DefinePolygon(17, "Two and not Nobody", {1, 1, 1}, {2});
+    DefinePolygon(kPopulationSlots, "Two and not Nobody", {1, 1, 1}, {2});
     const ScriptedTable& grid = OpenStatistics();
     EXPECT_EQ(TableForms().back()->caption, "(1) Statistics: tube.fcs");
     EXPECT_EQ(grid.table.rows[0].cells,
@@ -61,9 +73,17 @@ TEST_F(StatisticsTest, CountsSharesAndMeans) {
     EXPECT_EQ(grid.Row("Two")[2], "0");
     IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(2);
     EXPECT_EQ(grid.Row("Two and not Nobody")[2], "50");
-    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("17", "vis"), 50);
-    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("0", "xmean"), 50);
-    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("zz", "number"), std::nullopt);
+    // 0, 100 and -10, 10 are left; in geometric means what is not above 0 counts as 1.
+    ExpectStatistics("0", {{"number", 2},
+                           {"vis", 100},
+                           {"xmean", 50},
+                           {"ymean", 0},
+                           {"xgeomean", 10},
+                           {"ygeomean", std::sqrt(10)}});
+    ExpectStatistics("32", {{"number", 1}, {"vis", 50}, {"xmean", 100}});
+    for (const char* none : {"zz", "-1", "33", ""}) {
+        EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka(none, "number"), std::nullopt);
+    }
     EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("0", "median"), std::nullopt);
 }
 
@@ -95,6 +115,18 @@ struct PlainSums {
     }
     double Mean(std::size_t sum) const { return static_cast<double>(sums[sum] / count); }
 };
+
+TEST_F(StatisticsTest, SpreadIsOfMeansAboveZeroAlone) {
+    const auto spread = [](const std::vector<float>& values) {
+        PutFile(1, "tube.fcs", {{"a", false, 1000, values}});
+        std::vector<HistoRivi> rows(kPopulationSlots + 1);
+        LaskeHistoTilastot({Tiedostot(1), 1}, rows);
+        return rows[0].CV;
+    };
+    EXPECT_EQ(spread({5, 15}), 0.5);
+    EXPECT_EQ(spread({-5, -15}), 0);
+    EXPECT_EQ(spread({-5, 5}), 0) << "nothing is divided by 0";
+}
 
 // Sums are taken by blocks and vectors.
 TEST_F(StatisticsTest, AgreeWithASumOverEveryEvent) {
@@ -146,7 +178,10 @@ TEST_F(StatisticsTest, QuadrantsDivideOnTheGrid) {
               (Row{"Lower Right", "2", "50", "700", "300", "670.82", "223.6"}))
         << "an event on the lines goes right and down";
     EXPECT_EQ(grid.table.rows[2].cells[0], "") << "an empty row before them";
-    EXPECT_EQ(IkkunaPaikassa(1)->Stats()->AnnaStatistiikka("lr", "vis"), 50);
+    ExpectStatistics("ul", {{"vis", 25}, {"xmean", 100}});
+    ExpectStatistics("ur", {{"vis", 25}, {"xmean", 900}, {"ymean", 900}});
+    ExpectStatistics("ll", {{"vis", 0}, {"xmean", 0}});
+    ExpectStatistics("lr", {{"vis", 50}, {"xmean", 700}});
     IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", 0);
     IkkunaPaikassa(1)->Quadrant()->AsetaRegion("y", 0);
     EXPECT_EQ(grid.Row("Lower Right")[2], "100");

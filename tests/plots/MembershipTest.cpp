@@ -45,13 +45,13 @@ class MembershipTest : public ProgramTest {
 TEST_F(MembershipTest, EveryNthEventIsUsedWhenItIsAMember) {
     const Tiedosto& file = Put();
     for (int32_t event = 1; event <= file.EventCount; ++event) {
-        Tiedostot(1).Membership.Aseta(event, 7, event % 3 == 1 ? 1 : 0);
+        Tiedostot(1).Membership.Aseta(event, 7, event % 3 != 0 ? 1 : 0);
     }
     for (const int16_t gate : {int16_t{0}, int16_t{7}}) {
         for (const int32_t step : {1, 2, 7, 2047, 5000, 6000, INT32_MAX}) {
             std::vector<int32_t> expected;
             for (int64_t event = 1; event <= file.EventCount; event += step) {
-                if (gate == 0 || event % 3 == 1) {
+                if (gate == 0 || event % 3 != 0) {
                     expected.push_back(static_cast<int32_t>(event));
                 }
             }
@@ -80,7 +80,7 @@ TEST_F(MembershipTest, PolygonsHoldWhatIsInsideThemOnTheGrid) {
             region.X[corner] = static_cast<float>(random() % 12000) - 1000;
             region.Y[corner] = static_cast<float>(random() % 12000) - 1000;
         }
-        if (round % 4 == 0) {  // an upright rectangle, with events near all its sides
+        if (round % 4 == 1) {  // an upright rectangle, with events near all its sides
             region.Corners = 4;
             region.X[2] = region.X[1];
             region.Y[3] = region.Y[2];

@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
+#include "plots/Axes.h"
 #include "plots/DensityLayer.h"
 #include "tests/support/PlotFixture.h"
 
@@ -39,6 +42,14 @@ TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
     // Four decades of ten ticks each, k * 10^d for k from 1 to 10, and 10000 once more as the
     // first of the decade that the axis has no room for.
     EXPECT_EQ(ticks([](const auto& s) { return s.x1 == 18 && s.x2 == 14; }), 41);
+    // 500 of 1024 on 200 pixels, and three of four decades.
+    EXPECT_EQ(ticks([](const auto& s) { return s.x1 == 18 + 97.65625 && s.y2 == 222; }), 1);
+    EXPECT_EQ(ticks([](const auto& s) { return s.x2 == 14 && std::fabs(s.y1 - 68) < 1e-9; }), 2);
+    EXPECT_EQ(TikkienPaikat({"", false, 65536}, 200).size(), 66U);
+    EXPECT_EQ(TikkienPaikat({"", false, 1}, 200).size(), 11U) << "a tenth each";
+    EXPECT_FALSE(TikkienPaikat({"", true, 2}, 200).empty());
+    EXPECT_TRUE(TikkienPaikat({"", false, 0}, 200).empty());
+    EXPECT_TRUE(TikkienPaikat({"", true, 1}, 200).empty());
     const auto& texts = form.surface.texts;
     ASSERT_EQ(texts.size(), 2U);
     EXPECT_EQ(texts[0].text, "FSC-H");
@@ -51,18 +62,22 @@ TEST_F(DotPlotTest, DrawsAxesTicksAndTitles) {
 }
 
 TEST_F(DotPlotTest, ColoursByTheHighestVisiblePopulation) {
-    ScriptedForm& form =
-        Open({{"a", false, 1000, {100, 200, 300, 400}}, {"b", false, 1000, {100, 200, 300, 400}}});
+    ScriptedForm& form = Open({{"a", false, 1000, {100, 200, 300, 400, 500}},
+                               {"b", false, 1000, {100, 200, 300, 400, 500}}});
     DefinePolygon(2, "low", {255, 0, 0}, {1, 2, 3});
     DefinePolygon(17, "definition", {0, 255, 0}, {2, 3});
     DefinePolygon(18, "clear", {0, 0, 255}, {3});
     Populaatiot(18).Transparent = true;
+    DefinePolygon(19, "deleted", {7, 7, 7}, {1, 2, 3, 4});
+    Populaatiot(19).Defined = false;
+    DefinePolygon(kPopulationSlots, "last", {0, 255, 255}, {5});
     Populaatiot(2).AxisY = 7;  // drawn elsewhere; its members keep their colour here
     main.PiirraKaikki();
     EXPECT_EQ(DotAt(form, 20, 20), 0xffff0000);
     EXPECT_EQ(DotAt(form, 40, 40), 0xff00ff00);
     EXPECT_EQ(DotAt(form, 60, 60), 0xff00ff00) << "a transparent one is passed over";
     EXPECT_EQ(DotAt(form, 80, 80), kWhite);
+    EXPECT_EQ(DotAt(form, 100, 100), 0xff00ffff);
     ChoosePopup(form, 7);
     EXPECT_EQ(DotAt(form, 20, 20), kWhite);
     ChoosePopup(form, 12);
@@ -162,13 +177,21 @@ TEST_F(DotPlotTest, ResizingByHandDrawsThinnedUntilTheSizeRests) {
 }
 
 TEST_F(DotPlotTest, DensityShadesCountEvents) {
-    // Three events in one cell, one in another, and one far outside the matrix.
-    ScriptedForm& form = Open({{"a", false, 1000, {500, 500, 500, 250, 1e30F}},
-                               {"b", false, 1000, {500, 500, 500, 250, 500}}});
+    // Three events in one cell, one below them, one to the left of that, one beyond both axes,
+    // one far outside the matrix, and twenty in a cell.
+    std::vector<float> a = {500, 500, 500, 500, 250, 1010, 1e30F};
+    std::vector<float> b = {500, 500, 500, 250, 250, 1010, 500};
+    a.insert(a.end(), 20, 750);
+    b.insert(b.end(), 20, 250);
+    ScriptedForm& form = Open({{"a", false, 1000, a}, {"b", false, 1000, b}});
     ChoosePopup(form, 3);
     // 512 cells on 200 pixels: value 500 is cell 256 from the left and 256 from the top.
     EXPECT_EQ(form.surface.PixelAt(118, 118), Grey(120).Pixel());
     EXPECT_EQ(form.surface.PixelAt(68, 168), Grey(60).Pixel());
+    EXPECT_EQ(form.surface.PixelAt(118, 168), Grey(60).Pixel());
+    EXPECT_EQ(form.surface.PixelAt(168, 168), Grey(255).Pixel());
+    // Cell 517 from the left, at 219.95, and 6 above the plot, at 15.66.
+    EXPECT_EQ(form.surface.PixelAt(220, 16), Grey(60).Pixel());
     ChoosePopup(form, 12);
     EXPECT_EQ(form.surface.PixelAt(68, 168), Grey(60).Pixel()) << "also on white";
     ChoosePopup(form, 3);
@@ -188,6 +211,19 @@ TEST_F(DotPlotTest, DensityCellsAreRectanglesOnLargeSurfaces) {
     }
     EXPECT_EQ(form.surface.PixelAt(18 + 511, 18 + 512), kBlack);
     EXPECT_EQ(form.surface.PixelAt(18 + 515, 18 + 512), kBlack);
+    // One way just the 512 pixels that give a cell two, the other way too few for more than one.
+    for (const bool wide : {true, false}) {
+        form.SetOuterSize(TwipsFromPixels((wide ? 548 : 236) + ScriptedForm::kFrameWidth),
+                          TwipsFromPixels((wide ? 236 : 548) + ScriptedForm::kFrameHeight));
+        const auto at = [&](int along, int across) {
+            return wide ? form.surface.PixelAt(18 + 256 + along, 18 + 100 + across)
+                        : form.surface.PixelAt(18 + 100 + across, 18 + 256 + along);
+        };
+        EXPECT_EQ(at(0, 0), Grey(60).Pixel());
+        EXPECT_EQ(at(1, 0), Grey(60).Pixel());
+        EXPECT_EQ(at(2, 0), kBlack);
+        EXPECT_EQ(at(0, 1), kBlack);
+    }
 }
 
 TEST_F(DotPlotTest, RegionsAndTheirNames) {
@@ -240,6 +276,7 @@ TEST_F(DotPlotTest, RegionsAndTheirNames) {
 TEST_F(DotPlotTest, QuadrantCross) {
     ScriptedForm& form = Open({{"a", false, 1000, {0}}, {"b", false, 1000, {0}}});
     ChoosePopup(form, 2);
+    EXPECT_EQ(platform.popups.lastEntries[2].caption, "Show Quadrant");
     EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("y"), " 5000");
     EXPECT_EQ(form.surface.PixelAt(118, 30), kWhite);
     IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", 2500);
@@ -250,11 +287,34 @@ TEST_F(DotPlotTest, QuadrantCross) {
     EXPECT_EQ(form.surface.PixelAt(118, 30), kBlack);
     EXPECT_EQ(form.surface.PixelAt(68, 200), kWhite);
     EXPECT_EQ(form.surface.PixelAt(200, 38), kWhite);
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", -5);
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("z", 7);
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), "-5");
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("z"), "");
+    IkkunaPaikassa(1)->Quadrant()->AsetaRegion("x", 2500);
     IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("close");
+    EXPECT_EQ(form.surface.PixelAt(68, 200), kBlack);
+    form.Press(68, 38);
+    form.Release(150, 150);
+    EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 2500")
+        << "a hidden cross is not taken hold of";
+    ChoosePopup(form, 18);
+    EXPECT_EQ(platform.popups.lastEntries[2].caption, "Show quadrant");
     ViimeKvadranttiX = 4000;
     ViimeKvadranttiY = 3000;
     IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("open");
     EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 4000");
+    for (const auto& [x, y] : {std::pair{0, 3000}, {4000, 0}}) {
+        ViimeKvadranttiX = x;
+        ViimeKvadranttiY = y;
+        IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("close");
+        IkkunaPaikassa(1)->Quadrant()->NaytaTaiPiilotaKvadrantti("open");
+        EXPECT_EQ(IkkunaPaikassa(1)->Quadrant()->AnnaKvadrantinKoordinaatit("x"), " 5000")
+            << "one left at an edge comes back in the middle";
+    }
+    EXPECT_EQ(form.surface.PixelAt(118, 30), kWhite);
+    ChoosePopup(form, 2);
+    EXPECT_EQ(form.surface.PixelAt(118, 30), kBlack);
 }
 
 TEST_F(DotPlotTest, ChannelsFromTheAxesAndTheirFallback) {
@@ -285,8 +345,10 @@ TEST_F(DotPlotTest, AWindowWithoutFileStaysEmpty) {
     for (int item = 1; item <= 18; ++item) {
         ChoosePopup(form, item);
     }
+    EXPECT_FALSE(platform.popups.lastEntries[16].enabled) << "there is no data to save";
+    form.Press(form.surface.Width() / 2.0, form.surface.Height() / 2.0);
     EXPECT_EQ(form.surface.redraws, redraws);
-    EXPECT_TRUE(form.surface.texts.empty());
+    EXPECT_TRUE(form.surface.texts.empty() && form.surface.strokes.empty());
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The session is on disk at every step, and comes back after a run that ended badly.
 #include "SheetFixture.h"
+#include "tests/support/OrdinaryUser.h"
 
 namespace tessarin {
 namespace {
@@ -73,6 +74,56 @@ TEST_F(AutosaveTest, FailuresAreToldOnceAndWorkGoesOn) {
     ASSERT_EQ(platform.dialogs.messages.size(), 1U);
     EXPECT_EQ(platform.dialogs.messages[0].text, "An error occured during the saving!");
     fs::create_directory(folder_.Path());
+    program.main.Command("CreateDotPlot");
+    EXPECT_TRUE(fs::exists(file_));
+    fs::remove_all(folder_.Path());
+    program.main.Command("CreateHistogram");
+    EXPECT_EQ(platform.dialogs.messages.size(), 2U) << "another failure is told again";
+    fs::create_directory(folder_.Path());
+    program.main.Command("CreateHistogram");
+    EXPECT_TRUE(fs::exists(file_));
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, WritesOnlyWhatIsNewAndNoHalfSession) {
+    const std::string sheet = folder_.Write("two.tessarin",
+                                            "window.1.type:DotPlot\n"
+                                            "window.2.type:DotPlot\n");
+    Program program(platform);
+    program.main.Command("CreateDotPlot");
+    ASSERT_TRUE(fs::exists(file_));
+    fs::remove(file_);
+    program.store.TalletaNakyma("Autosave");
+    EXPECT_FALSE(fs::exists(file_)) << "nothing has changed";
+    program.main.Command("CreateHistogram");
+    const std::string before = Bytes(file_);
+    EXPECT_NE(before.find("window.2.type:Histogram"), std::string::npos);
+    platform.loop.atNextYield = [&] {
+        program.store.TalletaNakyma("Autosave");
+        EXPECT_EQ(Bytes(file_), before) << "the old session is the better one";
+    };
+    program.main.LataaNakyma(sheet);
+    EXPECT_NE(Bytes(file_).find("window.2.type:DotPlot"), std::string::npos);
+
+    const std::string saved = Bytes(file_);
+    fs::permissions(folder_.Path(), fs::perms(0555));
+    fs::permissions(file_, fs::perms(0666));
+    {
+        const OrdinaryUser user;  // may make no file there
+        program.main.Command("CreateDotPlot");
+    }
+    fs::permissions(folder_.Path(), fs::perms(0755));
+    program.main.Command("CreateDotPlot");
+    EXPECT_EQ(Bytes(file_), saved) << "not tried again";
+    EXPECT_TRUE(platform.dialogs.messages.empty());
+    PalautaAlkutila();
+}
+
+TEST_F(AutosaveTest, StandsInTheUsersFolderWhereTheProgramsIsReadOnly) {
+    platform.programFolder = folder_.Path("closed/");
+    platform.dataFolder = folder_.Path();
+    platform.locks.others = {folder_.Path("closed/autosave.tessarin.lock")};
+    Program program(platform);
     program.main.Command("CreateDotPlot");
     EXPECT_TRUE(fs::exists(file_));
     PalautaAlkutila();

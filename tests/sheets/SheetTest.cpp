@@ -416,22 +416,5 @@ TEST_F(SheetTest, AnyNameOfAFileComesBack) {
     EXPECT_EQ(PathFromLine("percent:%4"), "%4") << "written by hand";
 }
 
-TEST_F(SheetTest, EventsDuringLoadingFindNoHalfSession) {
-    LayOut();
-    Save("FileSaveView", "a.tessarin");
-    platform.loop.atNextYield = [this] {
-        EXPECT_TRUE(Loading);
-        Choose("CreateDotPlot");
-        platform.mainForm.events->CloseRequested();
-        main.LataaNakyma(folder_.Path("a.tessarin"));
-        platform.mainForm.events->FilesDropped({folder_.Path("one.fcs")});
-        platform.mainForm.children[0]->Close();
-    };
-    Load(folder_.Path("a.tessarin"));
-    EXPECT_FALSE(Ikkunat(1).Used) << "a window may go while others come";
-    EXPECT_EQ(PlotForms().size(), 3U);
-    EXPECT_FALSE(Closing);
-}
-
 }  // namespace
 }  // namespace tessarin

@@ -19,7 +19,9 @@ TEST_F(SheetLimitsTest, TheLastOfEachTableComesBack) {
         "population.16.type:Polygon",   "population.16.corners:50",
         "population.16.corner.50.x:75", "definition.32.name:not P",
         "window.50.type:DotPlot",       "window.50.file:20"};
-    std::string text = "definition.16.name:a population has no definition\n";
+    std::string text =
+        "definition.16.name:a population has no definition\n"
+        "population.16.corner.1.2.3:more numbers than any key has\n";
     for (const std::string& line : lines) {
         text += line + "\n";
     }
@@ -117,12 +119,14 @@ TEST_F(SheetLimitsTest, PackagesOfEmptyFilesAndStrangeNames) {
     const std::string tube = Bytes(DataFile("tube.fcs", 1));
     const std::string there = folder_.Path("in/");
     fs::create_directory(there);
-    const std::string files =
-        "file.30.name:first.txt\nfile.30.length:0\nfile.1.name:tube.fcs\n"
-        "file.1.length:" +
-        std::to_string(tube.size()) +
-        "\nfile.30.name:sub/last.txt\nfile.30.length:0\n"
-        "window.2.type:Teapot\nwindow.3.type:Kettle\n# no content: here\n";
+    // Twice: the second finds the first where it would be written.
+    const std::string first = "file.30.name:first.txt\nfile.30.length:0\n";
+    const std::string files = first + first +
+                              "file.1.name:tube.fcs\n"
+                              "file.1.length:" +
+                              std::to_string(tube.size()) +
+                              "\nfile.30.name:sub/last.txt\nfile.30.length:0\n"
+                              "window.2.type:Teapot\nwindow.3.type:Kettle\n# no content: here\n";
     // Text is read in pieces of 65536 bytes; the mark may lie across two of them.
     for (const std::size_t inFirst : {0U, 1U, 7U, 8U}) {
         const std::string begin = "general.style:package\n" + files + "# ";

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 #include "core/RegionMuuttujat.h"
 #include "mainwindow/WindowList.h"
@@ -33,18 +35,14 @@ class GestureTest : public PlotTest {
     // A square over the middle half of both axes: values 250 to 750.
     void DrawSquare() {
         Arm();
-        Click(68, 68);
-        Click(168, 68);
-        Click(168, 168);
-        Click(68, 168);
-        Click(69, 67);  // on the handle of the first corner
+        // The last click is on the handle of the first corner.
+        for (const auto& [x, y] : {std::pair{68, 68}, {168, 68}, {168, 168}, {68, 168}, {69, 67}}) {
+            Click(x, y);
+        }
     }
     std::vector<int> Members(int slot) {
-        std::vector<int> members;
-        for (int32_t event = 1; event <= Tiedostot(1).EventCount; ++event) {
-            members.push_back(Tiedostot(1).Membership(event, slot));
-        }
-        return members;
+        const auto column = Tiedostot(1).Membership.Sarake(slot);
+        return {column.begin(), column.end()};
     }
     void ExpectIdle() {
         EXPECT_FALSE(UusiRegionPaalla || RegionAloitettu);
@@ -258,18 +256,16 @@ TEST_F(GestureTest, StatisticsAndAutosaveWaitForItsEnd) {
         table.rows.clear();
     };
     expect(true, "redrawn");
-    struct Case {
-        const char* what;
-        PixelPoint from;
-    };
-    for (const Case& c : {Case{"the cross", {118, 118}}, Case{"a corner", {68, 68}},
-                          Case{"the region", {80, 90}}, Case{"the name", {97, 114}}}) {
-        form_.Press(c.from.x, c.from.y);
-        form_.Move(c.from.x + 1, c.from.y);
+    for (const auto& [what, x, y] : {std::tuple("the cross", 118, 118),
+                                     {"a corner", 68, 68},
+                                     {"the region", 80, 90},
+                                     {"the name", 97, 114}}) {
+        form_.Press(x, y);
+        form_.Move(x + 1, y);
         IkkunaPaikassa(1)->Piirra();
-        expect(false, c.what);
-        form_.Release(c.from.x, c.from.y);
-        expect(true, c.what);
+        expect(false, what);
+        form_.Release(x, y);
+        expect(true, what);
     }
     form_.Resize(TwipsFromPixels(300), TwipsFromPixels(300));
     expect(false, "while the user resizes it");

@@ -1,16 +1,12 @@
-// The histogram: its bins, its bars, markers by mouse, and its statistics.
+// The histogram: its bins, its bars, and markers by mouse.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 
-#include "core/RegionMuuttujat.h"
-#include "mainwindow/WindowList.h"
-#include "mainwindow/WindowRegistry.h"
+#include "HistogramFixture.h"
 #include "plots/HistogramBins.h"
 #include "plots/MarkerOutlines.h"
-#include "tests/support/PlotFixture.h"
-#include "windows/FrameWindow.h"
 
 namespace tessarin {
 namespace {
@@ -73,53 +69,6 @@ TEST(HistogramBinsTest, SmoothsForwardAndFindsTheTop) {
     EXPECT_EQ(smooth, bins);
 }
 
-// Ten events at 500, in bin 512, and two at 250, in bin 256; smoothing is off.
-class HistogramTest : public PlotTest {
-  protected:
-    HistogramTest() : form_(Make()) { Answer(3, "0"); }
-
-    ScriptedForm& Make() {
-        OletusKoko("Histogram") = {TwipsFromPixels(236 + ScriptedForm::kFrameWidth).count,
-                                   TwipsFromPixels(236 + ScriptedForm::kFrameHeight).count};
-        std::vector<float> values(10, 500);
-        values.insert(values.end(), 2, 250);
-        PutFile(1, "tube.fcs",
-                {{"FL1", false, 1000, values}, {"FL2", false, 1000, std::vector<float>(12, 100)}});
-        CurrentFile = 1;
-        Choose("CreateHistogram");
-        return LastForm();
-    }
-    void Answer(int item, const std::string& text) {
-        platform.dialogs.texts.push_back(text);
-        ChoosePopup(form_, item);
-    }
-    void Arm() { platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion); }
-    void Drag(double x1, double y1, double x2, double y2) {
-        form_.Press(x1, y1);
-        form_.Move((x1 + x2) / 2, (y1 + y2) / 2);
-        form_.Move(x2, y2);
-        form_.Release(x2, y2);
-    }
-    // Ends at grid 2000 and 6000, height 5000.
-    void DrawMarker() {
-        Arm();
-        Drag(138, 100, 58, 118);  // from right to left
-    }
-    int Members(int16_t slot) {
-        const auto column = Tiedostot(1).Membership.Sarake(slot);
-        return static_cast<int>(std::count(column.begin(), column.end(), uint8_t{1}));
-    }
-    int CountStrokes(LineForm form, Rgb color) {
-        const auto& strokes = form_.surface.strokes;
-        return static_cast<int>(std::count_if(
-            strokes.begin(), strokes.end(),
-            [&](const auto& stroke) { return stroke.form == form && stroke.color == color; }));
-    }
-
-    ScriptedForm& form_;
-    const Rgb kRed{255, 0, 0};
-};
-
 TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
     EXPECT_EQ(form_.caption, "[S] (1): Histogram - tube.fcs");
     EXPECT_TRUE(form_.surface.HasText("FL1"));
@@ -174,62 +123,6 @@ TEST_F(HistogramTest, DrawsBarsScaleAndTitles) {
     EXPECT_EQ(KokoaMuutetaan, 0) << "always redrawn in full";
 }
 
-TEST_F(HistogramTest, GivesItsBinsToOthers) {
-    AnalysisWindow& window = *IkkunaPaikassa(1);
-    const BinOwner& bins = *window.Bins();
-    ChoosePopup(form_, 16);
-    std::string expected;
-    for (int bin = 1; bin <= 1024; ++bin) {
-        expected += bin == 512 ? "10\n" : (bin == 256 ? "2\n" : "0\n");
-    }
-    EXPECT_EQ(platform.clipboard.text, expected);
-    EXPECT_EQ(bins.LahetaHistogram()[512], 10);
-    EXPECT_EQ(bins.LahetaMax(), 1000);
-    EXPECT_EQ(bins.LahetaLog(), false);
-    EXPECT_EQ(bins.LahetaNimi(), "FL1");
-    EXPECT_EQ(bins.LahetaKanavaID(), 1);
-    EXPECT_EQ(bins.LahetaScale(), 0);
-    Populaatiot(1).X[1] = 1000;
-    Populaatiot(1).X[2] = 4000;
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 2500);
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("abskorkeus", 1), 2);
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("suhtkorkeus", 1), 2000);
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("other", 1), 0);
-    Populaatiot(1).X[2] = 5000;
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("abskorkeus", 1), 10) << "the bin at its end";
-    Populaatiot(MaxPopulations) = Populaatiot(1);
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", MaxPopulations), 5000);
-    Populaatiot(1).X[2] = 2000;
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 0) << "no bin wins";
-    Populaatiot(1).X[2] = 1e30F;
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 1), 5000);
-    EXPECT_EQ(bins.AnnaHistonKorkeinKohta("paikka", 99), 0);
-    for (const auto& [left, right] : {std::pair{10010.0F, 12000.0F}, {-900.0F, -20.0F}}) {
-        Populaatiot(1).X[1] = left;
-        Populaatiot(1).X[2] = right;
-        for (const char* mode : {"paikka", "abskorkeus", "suhtkorkeus"}) {
-            EXPECT_EQ(bins.AnnaHistonKorkeinKohta(mode, 1), 0) << left << " lies beyond the axis";
-        }
-    }
-    int32_t place = 5000;
-    EXPECT_EQ(bins.AnnaHistonKorkeus(place), 10000);
-    EXPECT_EQ(place, 512) << "the argument becomes the bin";
-    place = -5;
-    EXPECT_EQ(bins.AnnaHistonKorkeus(place), 0);
-    window.Channels()->AsetaKanava("x", 2);
-    EXPECT_EQ(window.Channels()->AnnaKanava("x"), "2");
-    EXPECT_EQ(bins.LahetaNimi(), "FL2");
-    EXPECT_TRUE(form_.surface.HasText("FL2"));
-    PutFile(1, "narrow.fcs", {{"only", false, 1000, {1}}});
-    window.Piirra();
-    EXPECT_EQ(window.Channels()->AnnaKanava("x"), "1")
-        << "a channel that the file lacks falls back";
-    Tiedostot(1) = Tiedosto();
-    EXPECT_EQ(bins.LahetaNimi(), "");
-    ChoosePopup(form_, 18);
-    EXPECT_FALSE(platform.popups.lastEntries[16].enabled) << "no bins to copy";
-}
-
 TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
     PutFile(2, "other.fcs", {{"a", false, 1000, {200, 199.9F, 600, 600.1F}}});
     Arm();
@@ -281,7 +174,7 @@ TEST_F(HistogramTest, DrawsAMarkerByOneDrag) {
     EXPECT_EQ(Tiedostot(2).Membership(1, 1), 0) << "a file without the channel has no members";
 }
 
-TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
+TEST_F(HistogramTest, MarkersAreEditedAndMoved) {
     DrawMarker();
     form_.Move(138, 119);
     EXPECT_EQ(CountStrokes(LineForm::kFilledBox, Grey(255)), 2) << "an end marks both";
@@ -317,6 +210,22 @@ TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
     EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000);
     EXPECT_EQ(Members(1), 10);
 
+    form_.Press(118, 78);
+    EXPECT_EQ(MuokattavaKulma, 1);
+    form_.SetOuterSize(TwipsFromPixels(436 + ScriptedForm::kFrameWidth), TwipsFromPixels(300));
+    form_.Move(218, 78);
+    EXPECT_EQ(KulmaX[2], 18 + 0.7F * 400) << "the other end stays where it was on the axis";
+    form_.SetOuterSize(TwipsFromPixels(236 + ScriptedForm::kFrameWidth),
+                       TwipsFromPixels(236 + ScriptedForm::kFrameHeight));
+    form_.Move(20, 78);
+    form_.Lose();
+    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000) << "broken off";
+}
+
+TEST_F(HistogramTest, NamesOfMarkersAreMoved) {
+    DrawMarker();
+    Drag(58, 118, 118, 78);
+    Drag(138, 78, 158, 78);
     const PlotArea area(form_.surface);
     const PixelPoint name = NimenPaikka(area, Populaatiot(1), kMarkerName);
     EXPECT_EQ(name.x, 18 + 120 - 7 * 3.5) << "over the middle of 5000 and 7000";
@@ -330,17 +239,6 @@ TEST_F(HistogramTest, MarkersAreEditedMovedAndNamed) {
     Drag(name.x + 1, name.y + 1, name.x + 11, name.y - 9);
     EXPECT_EQ(Populaatiot(1).TitleX, 550) << "its corner goes to the mouse";
     EXPECT_EQ(Populaatiot(1).TitleY, -450);
-
-    form_.Press(118, 78);
-    EXPECT_EQ(MuokattavaKulma, 1);
-    form_.SetOuterSize(TwipsFromPixels(436 + ScriptedForm::kFrameWidth), TwipsFromPixels(300));
-    form_.Move(218, 78);
-    EXPECT_EQ(KulmaX[2], 18 + 0.7F * 400) << "the other end stays where it was on the axis";
-    form_.SetOuterSize(TwipsFromPixels(236 + ScriptedForm::kFrameWidth),
-                       TwipsFromPixels(236 + ScriptedForm::kFrameHeight));
-    form_.Move(20, 78);
-    form_.Lose();
-    EXPECT_FLOAT_EQ(Populaatiot(1).X[1], 5000) << "broken off";
 }
 
 TEST_F(HistogramTest, LeavesAPolygonUnderWorkAlone) {
@@ -354,121 +252,6 @@ TEST_F(HistogramTest, LeavesAPolygonUnderWorkAlone) {
     EXPECT_TRUE(RegionAloitettu);
     EXPECT_EQ(KulmienMaara, 1);
     EXPECT_FALSE(Populaatiot(1).Defined);
-}
-
-TEST_F(HistogramTest, StatisticsWithSpread) {
-    PutFile(1, "tube.fcs",
-            {{"FL1", false, 1000, {10, 30, 0, 500}}, {"FL2", false, 1000, {1, 2, 3, 4}}});
-    Populaatio& marker = Populaatiot(3);
-    marker.Defined = true;
-    marker.Name = "Low";
-    marker.Type = "Histogram";
-    marker.AxisX = 1;
-    marker.Created = 2;  // of another window
-    marker.X[1] = 100;
-    marker.X[2] = 300;
-    Populaatiot(MaxPopulations) = marker;
-    Populaatiot(MaxPopulations).AxisX = 2;
-    Populaatiot(4) = marker;
-    Populaatiot(4).Type = "Polygon";
-    Populaatiot(kPopulationSlots).Defined = true;
-    Populaatiot(kPopulationSlots).Name = "Low";
-    Populaatiot(5) = marker;
-    Populaatiot(5).Name = "None";
-    Populaatiot(5).X[1] = 301;
-    Populaatiot(5).X[2] = 301;
-    TarkistaPopulaatiot();
-    ChoosePopup(form_, 1);
-    const ScriptedTable& grid = Grid();
-    using Row = std::vector<std::string>;
-    EXPECT_EQ(TableForms().back()->caption, "(1) Statistics: tube.fcs");
-    EXPECT_EQ(grid.table.rows[0].cells,
-              (Row{"", "Number", "% of vis", "X mean", "X geomean", "CV"}));
-    // 10, 30, 0, 500: mean 135, squares of the distances 125^2 + 105^2 + 135^2 + 365^2 = 178100;
-    // the root of a quarter of that is 211.0094, by 135 1.56303. Geometric: 0 counts as 1, and
-    // the fourth root of 150000 is 19.6799.
-    EXPECT_EQ(grid.Row("Visible"), (Row{"Visible", "4", "100", "135", "19.67", "156.3"}));
-    // 10 and 30: mean 20, distance 10 each, so 0.5; geometric the root of 300.
-    EXPECT_EQ(grid.Row("Low"), (Row{"Low", "2", "50", "20", "17.32", "50"}));
-    EXPECT_EQ(grid.Row("None"), (Row{"None", "0", "0", "0", "0", "0"}));
-    EXPECT_EQ(grid.table.rows.back().cells[1], "2") << "a definition";
-    EXPECT_EQ(grid.table.Rows(), 5) << "no row for a marker of another channel";
-    EXPECT_EQ(TableForms().back()->width.count, 5 * 1200 + 1500 + 100 + 3 * 15)
-        << "three pixels more than told, as the frame is wider here";
-    const StatisticsOwner& window = *IkkunaPaikassa(1)->Stats();
-    EXPECT_EQ(window.AnnaStatistiikka("3", "cv"), 50);
-    EXPECT_EQ(window.AnnaStatistiikka("3", "vis"), 50);
-    EXPECT_EQ(window.AnnaStatistiikka("32", "number"), 2);
-    EXPECT_EQ(window.AnnaStatistiikka("0", "xmean"), 135);
-    EXPECT_EQ(window.AnnaStatistiikka("0", "vis"), 100);
-    EXPECT_NEAR(window.AnnaStatistiikka("0", "cv").value_or(0), 156.303, 1e-3);
-    EXPECT_NEAR(window.AnnaStatistiikka("0", "xgeomean").value_or(0), 19.6799, 1e-4);
-    for (const char* none : {"-1", "33", ""}) {
-        EXPECT_EQ(window.AnnaStatistiikka(none, "number"), std::nullopt);
-    }
-    EXPECT_EQ(window.AnnaStatistiikka("ul", "number"), std::nullopt);
-    EXPECT_EQ(window.AnnaStatistiikka("0", "ymean"), std::nullopt);
-
-    platform.popups.choices.push_back({7, -1});
-    Grid().onRightPress();
-    EXPECT_EQ(platform.popups.lastEntries[5].caption, "CV");
-    EXPECT_EQ(grid.table.rows[0].cells[0], "File name");
-    IkkunaPaikassa(1)->Gate()->NaytaPopulaatio(3);
-    EXPECT_EQ(grid.Row("Visible")[1], "2");
-    IkkunaPaikassa(1)->Channels()->AsetaKanava("x", 2);
-    EXPECT_EQ(grid.table.Rows(), 5) << "the header row, and the marker on that channel";
-    ChoosePopup(form_, 1);
-    EXPECT_TRUE(TableForms().empty());
-}
-
-// A window that shows histograms, as far as those need to know.
-class Follower : public FrameWindow, private SourceOwner {
-  public:
-    explicit Follower(PaaIkkuna& main) : FrameWindow(main, {.emptyTitle = "Follower"}) {}
-    SourceOwner* Sources() override { return this; }
-    void Piirra() override { ++redraws; }
-    int redraws = 0;
-
-  private:
-    std::vector<WindowMenuItem> Items() override { return {}; }
-    void AddKeys(SheetTable& /*keys*/) override {}
-    void DrawPicture(const PlotArea& /*area*/) override {}
-    bool AsetaHistogram(int16_t /*line*/, int16_t /*window*/) override { return true; }
-};
-
-TEST_F(HistogramTest, WhatFollowsIsWorkedOutOutsideGesturesAndLoading) {
-    RekisteroiIkkunaLaji(
-        {"Follower", "", false, [](PaaIkkuna& to) { return std::make_shared<Follower>(to); }});
-    LuoIkkunaPaikkaan(main, "Follower", MaxWindows);
-    PoistaIkkunaLaji("Follower");
-    auto& follower = dynamic_cast<Follower&>(*IkkunaPaikassa(MaxWindows));
-    NewDotPlot();
-    DrawMarker();
-    ChoosePopup(form_, 1);
-    GridTable& table = Grid().table;
-    follower.redraws = 0;
-    const auto expect = [&](bool worked, const std::string& when) {
-        EXPECT_EQ(follower.redraws > 0, worked) << when;
-        EXPECT_EQ(!table.rows.empty(), worked) << when;
-        follower.redraws = 0;
-        table.rows.clear();
-    };
-    IkkunaPaikassa(1)->Piirra();
-    expect(true, "redrawn");
-    form_.Press(80, 200);
-    form_.Move(90, 200);
-    IkkunaPaikassa(1)->Piirra();
-    expect(false, "while a marker is moved");
-    form_.Release(90, 200);
-    expect(true, "moved");
-    Loading = true;
-    const int drawn = form_.surface.redraws;
-    IkkunaPaikassa(1)->Piirra();
-    EXPECT_EQ(form_.surface.redraws, drawn + 1) << "the picture comes at once";
-    expect(false, "while a sheet is loaded");
-    Loading = false;
-    form_.Close();
-    EXPECT_EQ(follower.redraws, 1) << "nothing to follow";
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // One line of a tool in its parts, and matching it against the forms of commands and queries.
 #pragma once
 
+#include <algorithm>
 #include <span>
 #include <string>
 #include <string_view>
@@ -54,12 +55,8 @@ class ToolPattern {
 /// `Tuntee` means knows: whether the form of one of `rows` fits.
 template <class Row>
 bool Tuntee(std::span<const Row> rows, std::span<const std::string> words) {
-    for (const Row& row : rows) {
-        if (row.form.Fits(words) == ToolPattern::Fit::kYes) {
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(
+        rows, [words](const Row& row) { return row.form.Fits(words) == ToolPattern::Fit::kYes; });
 }
 
 /// Finds the first of `rows` whose form fits; each has a member `form`. Null when none does; a

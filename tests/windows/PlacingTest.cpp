@@ -30,7 +30,8 @@ int CountShared(const PixelBox& a, const PixelBox& b) {
     int count = 0;
     for (int y = a.top; y < a.top + a.height; ++y) {
         for (int x = a.left; x < a.left + a.width; ++x) {
-            count += x >= b.left && x < b.left + b.width && y >= b.top && y < b.top + b.height;
+            const bool across = x >= b.left && x < b.left + b.width;
+            count += across && y >= b.top && y < b.top + b.height ? 1 : 0;
         }
     }
     return count;

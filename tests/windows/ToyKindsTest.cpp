@@ -57,14 +57,16 @@ class Summary : public FrameWindow, private StatisticsContent {
             sum_ += static_cast<double>(value);
         }
     }
-    GridTable TilastonTaulukko(const Tiedosto&, const Statistics& window, bool) const override {
+    GridTable TilastonTaulukko(const Tiedosto& /*file*/, const Statistics& window,
+                               bool /*copy*/) const override {
         static constexpr std::array<std::string_view, 1> kHeads = {"Sum"};
         StatisticsTable table(window, kHeads);
         table.AddColumnHeads("");
         table.AddValues("All", {TaulukonLuku(sum_)});
         return table.Take();
     }
-    std::optional<double> TilastonLuku(std::string_view, std::string_view) const override {
+    std::optional<double> TilastonLuku(std::string_view /*row*/,
+                                       std::string_view /*number*/) const override {
         return sum_;
     }
     FileView view_{*this};

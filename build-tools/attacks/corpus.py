@@ -33,8 +33,8 @@ def surroundings(folder):
     """Files of all sorts, none of which may change but for notes.txt and old.bmp, which tools may write to."""
     (folder / "closed").mkdir(parents=True)
     (folder / ".d").mkdir()
-    for name, content in {"notes.txt": b"a report\r\n", "old.bmp": b"BM....", ".hidden": b"text", "program": b"#!/bin/sh\n",
-                          "binary": b"\0\1\2", ".d/x": b"text", "closed/x": b"text", "tube.fcs": data.fcs(),
+    for name, content in {"notes.txt": b"a report\r\n", "old.bmp": b"BM....", ".hidden": b"text",
+                          "program": b"#!/bin/sh\n", "binary": b"\0\1\2", ".d/x": b"text", "closed/x": b"text", "tube.fcs": data.fcs(),
                           "tube2.fcs": data.fcs({"$TOT": "40"}), "table.txt": b"A\tB\n1\t2\n3\t4\n",
                           "sheet.tessarin": "\n".join(sheets.lines_of(sheets.SHEET)).encode()}.items():
         (folder / name).write_bytes(content)
@@ -90,7 +90,7 @@ def corpus(folder, pick):
     if folder:
         samples += [path.read_bytes()[:200000] for path in sorted(folder.rglob("*")) if path.is_file()]
     rows = [b"NAME\tA\tB\r\nx\t1.5\t2\r\ny\t3\t4\r\n", b"A\tB\n" + b"1,5\t-2e3\n" * 99]
-    for cases, seeds, count in zip(found, (samples, rows, None, None, None), (400, 100, 300, 150, 250)):
+    for cases, seeds, count in zip(found, (samples, rows, None, None, None), (400, 100, 300, 150, 200)):
         seeds = seeds or [case.content for case in cases if len(case.content) < 100000]
         damages = [(f"damage {number}", damaged(pick.choice(seeds), pick)) for number in range(count)]
         kind, ending = cases[0].kind, cases[0].file.rpartition(".")[2]

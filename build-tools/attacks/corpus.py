@@ -33,10 +33,11 @@ def surroundings(folder):
     """Files of all sorts, none of which may change but for notes.txt and old.bmp, which tools may write to."""
     (folder / "closed").mkdir(parents=True)
     (folder / ".d").mkdir()
-    for name, content in {"notes.txt": b"a report\r\n", "old.bmp": b"BM....", ".hidden": b"text",
-                          "program": b"#!/bin/sh\n", "binary": b"\0\1\2", ".d/x": b"text", "closed/x": b"text", "tube.fcs": data.fcs(),
-                          "tube2.fcs": data.fcs({"$TOT": "40"}), "table.txt": b"A\tB\n1\t2\n3\t4\n",
-                          "sheet.tessarin": "\n".join(sheets.lines_of(sheets.SHEET)).encode()}.items():
+    files = {"notes.txt": b"a report\r\n", "old.bmp": b"BM....", ".hidden": b"text", "program": b"#!/bin/sh\n",
+             "binary": b"\0\1\2", ".d/x": b"text", "closed/x": b"text", "table.txt": b"A\tB\n1\t2\n3\t4\n",
+             "tube.fcs": data.fcs(), "tube2.fcs": data.fcs({"$TOT": "40"}),
+             "sheet.tessarin": "\n".join(sheets.lines_of(sheets.SHEET)).encode()}
+    for name, content in files.items():
         (folder / name).write_bytes(content)
     (folder / "program").chmod(0o755)
     (folder / "closed" / "x").chmod(0o444)

@@ -8,7 +8,7 @@ GOOD = {"N": "1", "P": "1", "K": "1", "I": "2", "J": "3", "S": "number", "Q": "u
         "E": "1+2*(3)", "X": "500", "NAME": "made", "PATH": ".", "TEXT": "word", "PROMPT": "?", "TITLE": "?",
         "START": ".", "A=B": "1=1", "A>B": "1>2", "A<B": "2<1"}
 PLACES = ["/dev/full", "/dev/zero", ".hidden", "program", "binary", "closed/x", "link.txt", "old.bmp", "notes.txt",
-          "fifo", "../x", "/none/x", ".d/x", "n" * 300, "sheet.tessarin", "tube.fcs", "", ".", "closed", "dangling"]
+          "fifo", "../x", "/none/x", ".d/x", "n" * 300, "tube.fcs", "", ".", "closed", "dangling"]
 LOOPS = {
     "boxes": "do:3000\nmessage:box\nloop", "questions": "do:3000\nquestion.$x.input:?\nloop", "no loop": "do:5",
     "no do": "loop", "deep": "do:2\n" * 101, "rounds": "do:100000\n$n.calc:$n+1\nloop", "zero": "do:0\nloop",

@@ -59,7 +59,10 @@ std::string NoPicture(const fs::path& path, InputFile& file) {
 std::string Obstacle(const fs::path& path, std::string (*judge)(const fs::path&, InputFile&)) {
     std::error_code error;
     if (!fs::exists(path, error)) {
-        return "";
+        // What a link names would be made, or the link itself replaced, wherever that may be.
+        return fs::is_symlink(fs::symlink_status(path, error))
+                   ? Quoted(path) + " is a link to a file that is not there"
+                   : "";
     }
     InputFile file(path.string());
     if (!file.IsOpen()) {

@@ -77,6 +77,7 @@ TEST_F(ToolReportTest, AReportIsPutBehindTextAlone) {
     std::filesystem::permissions(folder_.Path("tool.sh"), std::filesystem::perms::group_exec,
                                  std::filesystem::perm_options::add);
     std::filesystem::create_symlink(folder_.Path(".bashrc"), folder_.Path("link"));
+    std::filesystem::create_symlink(folder_.Path(".profile"), folder_.Path("loose"));
     ASSERT_EQ(mkfifo(folder_.Path("pipe").c_str(), 0600), 0);
     struct Case {
         const char* name;
@@ -84,6 +85,7 @@ TEST_F(ToolReportTest, AReportIsPutBehindTextAlone) {
     };
     for (const Case& c : {Case{".bashrc", " is a hidden file"},
                           {"link", " is a hidden file"},
+                          {"loose", " is a link to a file that is not there"},
                           {"tool.sh", " is a program"},
                           {"early", " is no text"},
                           {"late", " is no text"},
@@ -125,6 +127,11 @@ TEST_F(ToolReportTest, APictureReplacesOnlyAPicture) {
     }
     EXPECT_EQ(Reason("w.1.saveimage:pipe"),
               "'" + folder_.Path("pipe") + "': it is no regular file: w.1.saveimage:pipe");
+    std::filesystem::create_symlink(folder_.Path("nowhere"), folder_.Path("loose"));
+    EXPECT_EQ(Reason("w.1.saveimage:loose"),
+              "'" + folder_.Path("loose") +
+                  "' is a link to a file that is not there: w.1.saveimage:loose");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_.Path("loose")));
     Run("w.1.saveimage:new.bmp");
     const std::string first = Content("new.bmp");
     folder_.Write("new.bmp", "BM, an old one");

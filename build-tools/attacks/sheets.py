@@ -76,7 +76,7 @@ def package(entries, extra="", content=b""):
 def packages():
     data = fcs()
     size = len(data)
-    names = ["../evil.fcs", "/tmp/evil.fcs", "..", ".", "", ".bashrc", "...x", "a/b.fcs", "a\\b.fcs", "x" * 256,
+    names = ["../evil.fcs", "/evil.fcs", "..", ".", "", ".bashrc", "...x", "a/b.fcs", "a\\b.fcs", "x" * 256,
              "percent:%2e%2e%2fevil.fcs", "percent:a%00b.fcs", "percent:a%0Ab.fcs", "percent:%2ebashrc", "percent:",
              "\udcff.fcs", "notes.txt", "link.txt", "dangling", "closed", "fifo", "one.tessarin", "program", "con",
              "../" * 99, "~", "$HOME", "*", " ", "x.desktop", "\u202e.fcs", ".tessarin-x.part", "../link.txt"]

@@ -24,14 +24,18 @@ std::string calls;  // what the system was asked for that matters after a loss o
 
 }  // namespace
 
-// They stand in for the C library's and do the same.
-extern "C" int fsync(int file) {
+// They stand in for the C library's fsync and rename, whose names they have when linked, and do the
+// same.
+extern "C" int ToldFlush(int file) __asm__("fsync");
+extern "C" int ToldRename(const char* from, const char* to) noexcept __asm__("rename");
+
+extern "C" int ToldFlush(int file) {
     struct stat status {};
     fstat(file, &status);
     calls += S_ISDIR(status.st_mode) ? "flush folder;" : "flush file;";
     return static_cast<int>(syscall(SYS_fsync, file));
 }
-extern "C" int rename(const char* from, const char* to) noexcept {
+extern "C" int ToldRename(const char* from, const char* to) noexcept {
     calls += "rename;";
     return renameat(AT_FDCWD, from, AT_FDCWD, to);
 }
@@ -78,7 +82,7 @@ TEST_F(SafeFileTest, TheDiskHasTheContentBeforeTheName) {
 
 TEST_F(SafeFileTest, WhatIsPrivateStaysSoFromTheFirstByte) {
     const mode_t mask = umask(022);
-    for (const mode_t rights : {0600, 0640, 0666, 0444}) {
+    for (const mode_t rights : {0600U, 0640U, 0666U, 0444U}) {
         const std::string path = folder_.Write("mine", "old");
         ASSERT_EQ(chmod(path.c_str(), rights), 0);
         SafeFile file(path);  // as root, who may write to any

@@ -21,17 +21,11 @@ class GestureTest : public PlotTest {
                       {"b", false, 1000, {300, 500, 500, 900}},
                       {"c", false, 1000, {0, 0, 0, 0}}})) {}
 
-    void Arm() { platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion); }
     void Click(double x, double y) {
         form_.Press(x, y);
         form_.Release(x, y);
     }
-    void Drag(double x1, double y1, double x2, double y2) {
-        form_.Press(x1, y1);
-        form_.Move((x1 + x2) / 2, (y1 + y2) / 2);
-        form_.Move(x2, y2);
-        form_.Release(x2, y2);
-    }
+    void Drag(double x1, double y1, double x2, double y2) { DragIn(form_, {x1, y1}, {x2, y2}); }
     // A square over the middle half of both axes: values 250 to 750.
     void DrawSquare() {
         Arm();

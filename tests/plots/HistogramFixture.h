@@ -31,13 +31,7 @@ class HistogramTest : public PlotTest {
         platform.dialogs.texts.push_back(text);
         ChoosePopup(form_, item);
     }
-    void Arm() { platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion); }
-    void Drag(double x1, double y1, double x2, double y2) {
-        form_.Press(x1, y1);
-        form_.Move((x1 + x2) / 2, (y1 + y2) / 2);
-        form_.Move(x2, y2);
-        form_.Release(x2, y2);
-    }
+    void Drag(double x1, double y1, double x2, double y2) { DragIn(form_, {x1, y1}, {x2, y2}); }
     // Ends at grid 2000 and 6000, height 5000.
     void DrawMarker() {
         Arm();

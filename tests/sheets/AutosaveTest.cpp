@@ -1,5 +1,10 @@
 // The session is on disk at every step, and comes back after a run that ended badly.
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "SheetFixture.h"
+#include "core/SafeFile.h"
+#include "tests/support/Leftovers.h"
 #include "tests/support/OrdinaryUser.h"
 
 namespace tessarin {
@@ -34,9 +39,17 @@ TEST_F(AutosaveTest, EveryStepIsOnDiskUntilTheProgramEnds) {
         EXPECT_NE(Bytes(file_).find("density.enabled:1"), std::string::npos);
         PalautaAlkutila();  // killed: nothing is put away
     }
+    const pid_t child = fork();
+    if (child == 0) {
+        const SafeFile half(file_, WriteCare::kQuick);
+        _exit(0);  // killed while it saves
+    }
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(Leftovers(folder_.Path()).size(), 1U);
     platform.dialogs.answers = {false};
     {
         Program second(platform);
+        EXPECT_TRUE(Leftovers(folder_.Path()).empty());
         EXPECT_EQ(platform.dialogs.questions.back().text,
                   "Tessarin was not closed properly. You want to recover the view?");
         EXPECT_EQ(platform.dialogs.questions.back().title, "Recovery");
